@@ -1,0 +1,81 @@
+#include "app/libraries.h"
+
+#include "app/globals.h"
+#include "platform/appfolder.h"
+#include "platform/codepage.h"
+#include "platform/fileops.h"
+#include "platform/stringlib.h"
+#include "platform/tempfolder.h"
+
+namespace {
+LibraryHandle g_language = 0;
+LibraryHandle g_edition = 0;
+LibraryHandle g_country = 0;
+LibraryHandle g_phoneCode = 0;
+
+void KillIfThere(const QString& path) {
+    if (FileExists(path)) Kill(path);
+}
+
+// Makes the staging folders when missing, replaces the working copy by a
+// fresh copy of the source. Every failure is passed over.
+void RefreshWorkingCopy(const QString& source, const QString& copy) {
+    EnsureTempArea();
+    KillIfThere(copy);
+    CopyFile(AppFile(source), copy);
+}
+
+void Unload(LibraryHandle& handle, const QString& copy) {
+    FreeLibrary(handle);
+    handle = 0;
+    KillIfThere(copy);
+}
+
+QString Lookup(LibraryHandle handle, int id) {
+    if (handle == 0) return QString();
+    QByteArray buffer(500, '\0');
+    int count = LoadStringA(handle, id, buffer, 383);  // 382 bytes at most
+    buffer.truncate(count);
+    int nul = buffer.indexOf('\0');
+    if (nul >= 0) buffer.truncate(nul);
+    return FromAnsi(buffer);
+}
+}  // namespace
+
+QString LanguageLibraryCopy() { return TempFile("ma_langfile" + LanguageId + ".dll"); }
+QString EditionLibraryCopy() { return TempFile("ma_edition_" + LanguageId + ".dll"); }
+
+void LoadLanguageLibrary() {
+    RefreshWorkingCopy("langfile" + LanguageId + ".dll", LanguageLibraryCopy());
+    g_language = LoadLibrary(LanguageLibraryCopy());
+}
+
+void LoadEditionLibrary() {
+    RefreshWorkingCopy("edition" + LanguageId + ".dll", EditionLibraryCopy());
+    g_edition = LoadLibrary(EditionLibraryCopy());
+}
+
+void CopyCountryLibraries() {
+    RefreshWorkingCopy("country.dll", TempFile("addr_country.dll"));
+    RefreshWorkingCopy("phonecode.dll", TempFile("addr_phonecode.dll"));
+}
+
+void LoadCountryLibrary() { g_country = LoadLibrary(TempFile("addr_country.dll")); }
+void LoadPhoneCodeLibrary() { g_phoneCode = LoadLibrary(TempFile("addr_phonecode.dll")); }
+
+void UnloadLanguageLibrary() { Unload(g_language, LanguageLibraryCopy()); }
+void UnloadEditionLibrary() { Unload(g_edition, EditionLibraryCopy()); }
+void UnloadCountryLibrary() { Unload(g_country, TempFile("addr_country.dll")); }
+void UnloadPhoneCodeLibrary() { Unload(g_phoneCode, TempFile("addr_phonecode.dll")); }
+
+// Runs while the two libraries are still loaded. On Windows that deletion
+// fails; here the loaded table lives on in memory, so the copies go now.
+void DeleteCountryLibraries() {
+    KillIfThere(TempFile("addr_country.dll"));
+    KillIfThere(TempFile("addr_phonecode.dll"));
+}
+
+QString GetLanguageString(int id) { return Lookup(g_language, id); }
+QString GetEditionString(int id) { return Lookup(g_edition, id); }
+QString GetCountryString(int id) { return Lookup(g_country, id); }
+QString GetPhoneCodeString(int id) { return Lookup(g_phoneCode, id); }

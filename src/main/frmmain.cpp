@@ -1,0 +1,172 @@
+#include "main/frmmain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QToolBar>
+#include <QTreeWidget>
+#include "app/captionrule.h"
+#include "app/globals.h"
+#include "app/inifile.h"
+#include "app/libraries.h"
+#include "app/placeholders.h"
+#include "main/twips.h"
+#include "main/vsplitter.h"
+#include "platform/appfolder.h"
+#include "platform/fileops.h"
+#include "platform/msgbox.h"
+#include "platform/pointer.h"
+#include "platform/sysinfo.h"
+#include "store/snapshot.h"
+
+FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
+    setObjectName("FrmMain");
+    buildControls();
+    buildMenus();
+    buildToolbar();
+    SizeAndCentre();
+}
+
+FrmMain::~FrmMain() = default;
+
+void FrmMain::buildControls() {
+    auto* client = new QWidget(this);
+    client->setObjectName("client");
+    setCentralWidget(client);
+
+    Toolbar1 = new QToolBar(client);
+    Toolbar1->setObjectName("Toolbar1");
+    Toolbar1->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    Toolbar1->setIconSize(QSize(24, 24));
+    Toolbar1->setMovable(false);
+
+    TreeView1 = new QTreeWidget(client);
+    TreeView1->setObjectName("TreeView1");
+    TreeView1->setHeaderHidden(true);
+    TreeView1->setColumnCount(1);
+
+    cmbCountry = new QComboBox(client);
+    cmbCountry->setObjectName("cmbCountry");
+    cmbCountry->setMaxVisibleItems(20);
+
+    lblCountry = new QLabel(client);
+    lblCountry->setObjectName("lblCountry");
+
+    VSplitter = new VSplitterBar(client);
+    connect(VSplitter, &VSplitterBar::moved, this, &FrmMain::onSplitterMoved);
+
+    ListView1 = new QTreeWidget(client);
+    ListView1->setObjectName("ListView1");
+    ListView1->setRootIsDecorated(false);
+    ListView1->setColumnCount(5);
+    ListView1->setHeaderLabels({"Contact Name", "Email Address", "Company", "Designation", "szID"});
+    ListView1->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    ListView1->setUniformRowHeights(true);
+    ListView1->header()->setStretchLastSection(false);
+    ListView1->header()->setSectionsClickable(true);
+
+    // Starting places in twips; the layout routines move them from here.
+    twips_[VSplitter] = QRect(2000, 800, 60, 4000);
+    twips_[cmbCountry] = QRect(0, 0, 2000, PixelsToTwipsY(cmbCountry->sizeHint().height()));
+    twips_[lblCountry] = QRect(0, 0, 600, PixelsToTwipsY(lblCountry->sizeHint().height()));
+    Toolbar1->setGeometry(0, 0, 4000, Toolbar1->sizeHint().height());
+}
+
+void FrmMain::formLoad() {
+    LoadCaptions();
+    intCountryClick = 1;
+    CopyAddrFile();
+    FillCountryFilter();
+    qint16 country = 0;
+    TextToInt16(GetIniValue("Setting", "Country", "0", SettingFile()), country);
+    // Setting the stored index raises the first click, which the guard swallows.
+    cmbCountry->setCurrentIndex(country);
+    if (cmbCountry->currentIndex() != country) onCountryClick();
+    LoadCategory();
+    const QString data = AppPath() + "/data";
+    if (!FolderExists(data)) MakeFolder(data);
+    ReadLayoutSettings();
+    if (!IsNTAdmin())
+        MsgBox(WithOwnerName(GetEditionString(528)), MsgExclamation, GetLanguageString(300));
+}
+
+void FrmMain::LoadCaptions() {
+    setWindowTitle(GetLanguageString(308));
+    LoadMenuCaptions();
+    const char* design[] = {"Contact Name", "Email Address", "Company", "Designation"};
+    const int strings[] = {500, 532, 562, 563};
+    for (int i = 0; i < 4; ++i) {
+        QString caption = GetLanguageString(strings[i]);
+        ListView1->headerItem()->setText(i, caption.isEmpty() ? QString(design[i]) : caption);
+    }
+    lblCountry->setText(GetLanguageString(508));
+    for (QWidget* control : {static_cast<QWidget*>(lblCountry), static_cast<QWidget*>(ListView1),
+                             static_cast<QWidget*>(TreeView1)}) {
+        SetFontSize(control, LabelFontSize());
+        SetFontCharset(control);
+    }
+}
+
+void FrmMain::FillCountryFilter() {
+    for (int number = 100; number <= 999; ++number) {
+        const QString country = GetCountryString(number);
+        if (country.isEmpty()) break;
+        cmbCountry->addItem(country);
+    }
+}
+
+void FrmMain::ReadLayoutSettings() {
+    for (int i = 0; i < 5; ++i) {
+        long width = 350;
+        TextToLong(GetIniValue("Grid", QString("ColWidth%1").arg(i), "350", SettingFile()), width);
+        ListView1->setColumnWidth(i, TwipsToPixelsX(width));
+    }
+    long left = 2000;
+    TextToLong(GetIniValue("VSplitter", "Left", "2000", SettingFile()), left);
+    QRect t = twipsOf(VSplitter);
+    t.moveLeft(int(left));
+    twips_[VSplitter] = t;
+    applyGeometry(VSplitter);
+    LayoutMainWindow();
+}
+
+void FrmMain::WriteLayoutSettings() {
+    const QString file = SettingFile();
+    PutIniValue("Setting", "Country", QString::number(cmbCountry->currentIndex()), file);
+    PutIniValue("Size", "Height", SingleToText(twipsHeight()), file);
+    PutIniValue("Size", "Width", SingleToText(twipsWidth()), file);
+    for (int i = 0; i < 5; ++i)
+        PutIniValue("Grid", QString("ColWidth%1").arg(i),
+                    SingleToText(PixelsToTwipsX(ListView1->columnWidth(i))), file);
+    PutIniValue("VSplitter", "Left", SingleToText(twipsOf(VSplitter).left()), file);
+}
+
+void FrmMain::CopyAddrFile() { ::CopyAddrFile(); }
+void FrmMain::DelAddrFile() { ::DelAddrFile(); }
+
+// Shut-down: the layout, the snapshots, the libraries, the other forms.
+void FrmMain::FormUnload() {
+    if (unloaded_) return;
+    unloaded_ = true;
+    SetScreenPointer(11);
+    WriteLayoutSettings();
+    DelAddrFile();
+    // While both are loaded; the unloads below delete them for certain.
+    DeleteCountryLibraries();
+    UnloadEditionLibrary();
+    UnloadLanguageLibrary();
+    UnloadPhoneCodeLibrary();
+    UnloadCountryLibrary();
+    // Compared with "frmmain" exactly: the window's own name never matches,
+    // and unloading it a second time does nothing.
+    for (QWidget* form : QApplication::topLevelWidgets())
+        if (form != this && form->objectName() != "frmmain" && form->isVisible()) form->close();
+    SetScreenPointer(0);
+}
+
+void FrmMain::closeEvent(QCloseEvent* event) {
+    FormUnload();
+    event->accept();
+}

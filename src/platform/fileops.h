@@ -1,0 +1,64 @@
+#pragma once
+// Every file operation of the store passes through here. That makes one
+// seam where a test can make the k-th operation fail, as a pulled drive or a
+// full disk would, and where the order of writes can be watched.
+//
+// No file is opened through a symbolic link: the staging area is a shared
+// place on the local disk, and a planted link must not redirect a write.
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+// Existence as the store tests it: a regular file, whether read-only or
+// hidden or not. Folders and other kinds of file are not found.
+bool FileExists(const QString& path);
+// The stricter test of the id generator: normal files only, so a read-only
+// or hidden file is not seen.
+bool NormalFileExists(const QString& path);
+bool FolderExists(const QString& path);
+bool MakeFolder(const QString& path);  // one level, mode 0700 in the staging area
+
+// FileCopy: the target is replaced if it exists.
+bool CopyFile(const QString& source, const QString& target);
+// Kill: deletes one file; false when it isn't there or can't go.
+bool Kill(const QString& path);
+// Name: moves a file; fails when the target exists. Across file systems
+// it is a copy followed by a delete.
+bool MoveFile(const QString& source, const QString& target);
+
+bool ReadWholeFile(const QString& path, QByteArray& bytes);
+// Creates or truncates, writes, closes.
+bool WriteWholeFile(const QString& path, const QByteArray& bytes);
+// Writes a new file beside the target and renames it over the target, so
+// that a fault leaves either the old or the new content.
+bool ReplaceFileContent(const QString& path, const QByteArray& bytes);
+
+// A sequential output file: opened for output (truncated) or for appending.
+class OutputFile {
+public:
+    OutputFile() = default;
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+    bool openForOutput(const QString& path);
+    bool openForAppend(const QString& path);
+    bool write(const QByteArray& bytes);
+    bool close();
+    bool isOpen() const { return fd_ >= 0; }
+private:
+    bool open(const QString& path, bool append);
+    int fd_ = -1;
+    QString path_;
+};
+
+// ---- the seam, for tests ----
+// Makes operation number k (counted from 1 after the reset) fail; 0 turns
+// failing off. Resets the count.
+void FailFileOperationAt(long k);
+long FileOperationCount();
+// "copy <target>", "kill <path>", ... of the operation made to fail, or empty.
+QString FailedFileOperation();
+// When on, every operation that changes a file is logged as "kind path".
+void SetFileOperationLogging(bool on);
+QStringList FileOperationLog();
+void ClearFileOperationLog();

@@ -1,0 +1,12 @@
+#pragma once
+// The prior-instance test: one Tandry per user, from whatever folder it
+// runs, because all of them share the one staging area. The claim is an
+// abstract local socket: no file is touched, and the system drops it when
+// the process dies.
+#include <QString>
+
+// True when another instance already holds the claim. Otherwise the claim
+// is taken for the life of this process and false is returned.
+bool PrevInstance();
+void ReleaseInstanceClaim();                      // for tests
+void SetInstanceNameForTest(const QString& name); // empty: the user's own

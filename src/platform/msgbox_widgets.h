@@ -1,0 +1,3 @@
+#pragma once
+// The presenter that draws message boxes with the window system.
+void InstallWidgetMsgBox();

@@ -1,0 +1,23 @@
+#pragma once
+// Profile strings with the semantics of the Windows calls: the first
+// section of a name wins, names compare without case, a rewrite changes the
+// value in place, a missing file or key gives the default, surrounding
+// double quotes of a value are dropped on reading. Texts are in the ANSI
+// code page of the process.
+#include <QString>
+
+// Copies at most size - 1 characters of the value (or default) into
+// `buffer` and returns the count copied, as GetPrivateProfileString does.
+int GetPrivateProfileString(const QString& section, const QString& key,
+                            const QString& defaultValue, QString& buffer,
+                            int size, const QString& file);
+
+// Writes key=value into the first section of that name, in place when the
+// key is there, at the end of the section otherwise; the section is added at
+// the end of the file when missing, and the file is created when missing.
+bool WritePrivateProfileString(const QString& section, const QString& key,
+                               const QString& value, const QString& file);
+
+// Number of GetPrivateProfileString calls made so far (for tests of the
+// growing buffer).
+long ProfileReadCallCount();

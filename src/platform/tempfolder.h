@@ -1,0 +1,18 @@
+#pragma once
+// The local staging area on the fixed disk. It stands where the Windows
+// program had C:\Vellumark\temp\: $XDG_CACHE_HOME/Vellumark/temp (default
+// ~/.cache/Vellumark/temp), each folder made with mode 0700.
+#include <QString>
+
+QString VellumarkFolder();                 // the folder that holds temp/
+QString TempArea();                        // VellumarkFolder() + "/temp"
+QString TempFile(const QString& name);     // TempArea() + "/" + name
+
+// Creates both folders when missing (mode 0700). False when they can't be
+// made, or when one of them is not a real folder of this user.
+bool EnsureTempArea();
+
+// The system's temporary folder (GetTempPath).
+QString SystemTempPath();
+
+void SetVellumarkFolderForTest(const QString& folder);  // empty: default

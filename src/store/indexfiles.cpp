@@ -1,0 +1,150 @@
+#include "store/indexfiles.h"
+
+#include <functional>
+#include <optional>
+#include "platform/codepage.h"
+#include "platform/fileops.h"
+#include "store/formatted.h"
+#include "store/paths.h"
+
+namespace {
+bool g_fileNumberOpen[3] = {false, false, false};
+
+bool Claim(int number) {
+    if (g_fileNumberOpen[number]) return false;  // "file already open"
+    g_fileNumberOpen[number] = true;
+    return true;
+}
+void Release(int number) { g_fileNumberOpen[number] = false; }
+
+// Adds one line to the work copy, then renames it to the staged file. An
+// append to a missing work copy makes a file of the one new line.
+bool Append(const QString& index, const QStringList& fields) {
+    const QString staged = StagedIndex(index);
+    if (FileExists(staged) && !Kill(staged)) return false;
+    if (g_fileNumberOpen[1]) return false;
+    OutputFile file;
+    if (!file.openForAppend(WorkCopy(index))) return false;
+    Claim(1);
+    if (!file.write(ToAnsi(WriteLine(fields))) || !file.close()) return false;
+    Release(1);
+    if (!MoveFile(WorkCopy(index), staged)) return false;
+    return FileExists(staged);
+}
+
+enum class PastEnd { Fails, EndsFile };
+
+// Gives the line to write for a line read, or nothing to leave it out.
+using LineRule = std::function<std::optional<QStringList>(const QStringList& fields)>;
+
+// Streams the work copy (file number 2) into the staged file (number 1),
+// line by line, by formatted reading and writing.
+bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd pastEnd,
+            const std::function<QString()>& tail = {}) {
+    const QString staged = StagedIndex(index);
+    if (g_fileNumberOpen[1]) return false;
+    OutputFile output;
+    if (!output.openForOutput(staged)) return false;
+    Claim(1);
+    if (g_fileNumberOpen[2]) return false;
+    QByteArray input;
+    if (!ReadWholeFile(WorkCopy(index), input)) return false;
+    Claim(2);
+    FieldReader reader(FromAnsi(input));
+    QString text;
+    bool endedEarly = false;
+    while (!reader.atEnd() && !endedEarly) {
+        QStringList fields;
+        for (int i = 0; i < fieldCount; ++i) {
+            QString field;
+            if (!reader.read(field)) {
+                if (pastEnd == PastEnd::Fails) return false;
+                endedEarly = true;
+                break;
+            }
+            fields << field;
+        }
+        if (endedEarly) break;
+        if (auto written = rule(fields)) text += WriteLine(*written);
+    }
+    if (!endedEarly && tail) text += tail();
+    if (!output.write(ToAnsi(text)) || !output.close()) return false;
+    Release(1);
+    Release(2);
+    if (endedEarly) return true;
+    return FileExists(staged);
+}
+
+LineRule RemoveWhere(int field, const QString& contactId) {
+    return [=](const QStringList& f) -> std::optional<QStringList> {
+        if (f[field] == contactId) return std::nullopt;
+        return f;
+    };
+}
+}  // namespace
+
+bool AppendCatLine(const QString& contactId, const QString& country, const QString& categoryId) {
+    return Append("cat", {country, categoryId, contactId});
+}
+
+bool AppendCtyLine(const QString& contactId, const QString& country) {
+    return Append("cty", {country, contactId});
+}
+
+bool AppendNameLine(const QString& contactId, const QString& name) {
+    return Append("name", {contactId, name});
+}
+
+bool ReplaceCatLine(const QString& contactId, const QString& country, const QString& categoryId) {
+    return Stream("cat", 3, [&](const QStringList& f) -> std::optional<QStringList> {
+        if (f[2] != contactId) return f;
+        return QStringList{country, categoryId, contactId};
+    }, PastEnd::Fails);
+}
+
+bool ReplaceCtyLine(const QString& contactId, const QString& country, const QString& categoryId,
+                    CtyReplace mode) {
+    const QString second = mode == CtyReplace::CategoryIdInPlaceOfContact ? categoryId : contactId;
+    return Stream("cty", 2, [&](const QStringList& f) -> std::optional<QStringList> {
+        if (f[1] != contactId) return f;
+        return QStringList{country, second};
+    }, PastEnd::Fails);
+}
+
+bool ReplaceNameLine(const QString& contactId, const QString& name, NameReplace mode) {
+    bool matched = false;
+    return Stream("name", 2, [&](const QStringList& f) -> std::optional<QStringList> {
+        if (f[0] != contactId) return f;
+        matched = true;
+        return QStringList{f[0], name};
+    }, PastEnd::Fails, [&]() -> QString {
+        if (matched || mode != NameReplace::AppendWhenMissing) return QString();
+        return WriteLine({contactId, name});
+    });
+}
+
+bool RemoveCatLine(const QString& contactId) {
+    return Stream("cat", 3, RemoveWhere(2, contactId), PastEnd::Fails);
+}
+
+bool RemoveCtyLine(const QString& contactId) {
+    return Stream("cty", 2, RemoveWhere(1, contactId), PastEnd::Fails);
+}
+
+bool RemoveNameLine(const QString& contactId) {
+    return Stream("name", 2, RemoveWhere(0, contactId), PastEnd::EndsFile);
+}
+
+NameLine SplitNameLine(const QString& line) {
+    QStringList pieces = line.split(QStringLiteral("\",\""));
+    for (QString& piece : pieces) piece.remove(u'"');
+    if (pieces.size() == 2) return {pieces[0], pieces[1]};
+    return {pieces.value(0), QString()};
+}
+
+bool FileNumberInUse(int number) { return number >= 1 && number <= 2 && g_fileNumberOpen[number]; }
+
+void ReleaseFileNumbersForTest() {
+    Release(1);
+    Release(2);
+}

@@ -1,0 +1,13 @@
+#pragma once
+// Where each file of the store lies.
+#include <QString>
+
+QString CategoryFile();                       // <app>/category.dat
+QString LiveIndex(const QString& index);      // <app>/<index>.dat, index: cat, cty, name
+QString WorkCopy(const QString& index);       // staging: addr_<index>.tmp
+QString StagedIndex(const QString& index);    // staging: addr_<index>.dat
+QString DataFolder();                         // <app>/data
+QString RecordPath(const QString& contactId);        // <app>/data/addr<id>.b64
+QString StagedRecordPath(const QString& contactId);  // staging: addr<id>.b64
+QString CatSnapshot();                        // staging: addr_cat.dat
+QString CategorySnapshot();                   // staging: addr_category.dat

@@ -1,0 +1,106 @@
+#include "store/record.h"
+
+#include "app/inifile.h"
+#include "platform/codepage.h"
+#include "platform/fileops.h"
+#include "store/paths.h"
+#include "store/text.h"
+
+ContactRecord ContactBuffer;
+bool ContactEditFlag = false;
+
+void ClearContactBuffer() { ContactBuffer = ContactRecord(); }
+
+namespace {
+QString Key(const QString& path, const char* key) { return GetIniValue("Setting", key, "", path); }
+
+// Reads the keys in the file's order; the country's conversion may fail,
+// and then the rest of the buffer stays as it was.
+bool ReadKeys(const QString& contactId, bool idFromFile) {
+    const QString path = RecordPath(contactId);
+    if (!FileExists(path)) return false;
+    ContactRecord& b = ContactBuffer;
+    b.infoid = idFromFile ? Key(path, "infoid") : contactId;
+    b.infoname = Key(path, "infoname");
+    b.category = Key(path, "category");
+    if (!TextToInt16(Key(path, "country"), b.country)) return false;
+    b.tel1 = Key(path, "tel1");
+    b.ext1 = Key(path, "ext1");
+    b.tel2 = Key(path, "tel2");
+    b.ext2 = Key(path, "ext2");
+    b.mobile = Key(path, "mobile");
+    b.fax = Key(path, "fax");
+    b.company = Key(path, "company");
+    b.designation = Key(path, "designation");
+    b.addr = Key(path, "addr");
+    b.notes = Key(path, "notes");
+    b.mail = Key(path, "mail");
+    return true;
+}
+
+QByteArray Lines(const QList<std::pair<const char*, QString>>& pairs) {
+    QString text = QStringLiteral("[Setting]\r\n");
+    for (const auto& [key, value] : pairs) text += QString::fromLatin1(key) + "=" + value + "\r\n";
+    return ToAnsi(text);
+}
+}  // namespace
+
+bool ReadContact(const QString& contactId) { return ReadKeys(contactId, false); }
+bool ReadContactWithId(const QString& contactId) { return ReadKeys(contactId, true); }
+
+bool ReadContactSummary(const QString& contactId) {
+    const QString path = RecordPath(contactId);
+    if (!FileExists(path)) return false;
+    ContactBuffer.infoname = Key(path, "infoname");
+    ContactBuffer.mail = Key(path, "mail");
+    ContactBuffer.category = Key(path, "category");
+    ContactBuffer.company = Key(path, "company");
+    ContactBuffer.designation = Key(path, "designation");
+    return true;
+}
+
+QString EncodeFieldText(const QString& text) {
+    QString result = TrimSpaces(text);
+    result.replace(QStringLiteral("\r\n"), QStringLiteral("<NextLine>"));
+    result.replace(u'"', QStringLiteral("\"\""));
+    return result;
+}
+
+QString DecodeNextLine(const QString& text) {
+    QString result = text;
+    return result.replace(QStringLiteral("<NextLine>"), QStringLiteral("\r\n"), Qt::CaseInsensitive);
+}
+
+QByteArray RecordTextFromForm(const QString& contactId, const ContactForm& f) {
+    return Lines({{"infoid", contactId},
+                  {"infoname", EncodeFieldText(f.name)},
+                  {"country", QString::number(f.countryIndex)},
+                  {"category", f.categoryId},
+                  {"tel1", EncodeFieldText(f.tel1)},
+                  {"ext1", EncodeFieldText(f.ext1)},
+                  {"tel2", EncodeFieldText(f.tel2)},
+                  {"ext2", EncodeFieldText(f.ext2)},
+                  {"mobile", EncodeFieldText(f.mobile)},
+                  {"fax", EncodeFieldText(f.fax)},
+                  {"company", EncodeFieldText(f.company)},
+                  {"designation", EncodeFieldText(f.designation)},
+                  {"addr", EncodeFieldText(f.addr)},
+                  {"notes", EncodeFieldText(f.notes)},
+                  {"mail", EncodeFieldText(f.mail)}});
+}
+
+QByteArray RecordTextFromBuffer(const QString& contactId, const ContactRecord& r) {
+    return Lines({{"infoid", contactId},        {"infoname", r.infoname},
+                  {"country", QString::number(r.country)},
+                  {"category", r.category},     {"tel1", r.tel1},
+                  {"ext1", r.ext1},             {"tel2", r.tel2},
+                  {"ext2", r.ext2},             {"mobile", r.mobile},
+                  {"fax", r.fax},               {"company", r.company},
+                  {"designation", r.designation}, {"addr", r.addr},
+                  {"notes", r.notes},           {"mail", r.mail}});
+}
+
+bool WriteRecordFile(const QString& path, const QByteArray& text) {
+    OutputFile file;
+    return file.openForOutput(path) && file.write(text) && file.close();
+}

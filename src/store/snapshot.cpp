@@ -1,0 +1,22 @@
+#include "store/snapshot.h"
+
+#include "platform/fileops.h"
+#include "store/paths.h"
+
+namespace {
+bool Refresh(const QString& source, const QString& target) {
+    if (FileExists(target) && !Kill(target)) return false;
+    return CopyFile(source, target);
+}
+}  // namespace
+
+void CopyAddrFile() {
+    // Any failure ends it silently.
+    if (!Refresh(LiveIndex("cat"), CatSnapshot())) return;
+    Refresh(CategoryFile(), CategorySnapshot());
+}
+
+void DelAddrFile() {
+    if (FileExists(CatSnapshot())) Kill(CatSnapshot());
+    if (FileExists(CategorySnapshot())) Kill(CategorySnapshot());
+}
