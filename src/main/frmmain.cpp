@@ -21,7 +21,14 @@
 #include "platform/sysinfo.h"
 #include "store/snapshot.h"
 
+namespace {
+FrmMain* g_mainWindow = nullptr;
+}
+
+FrmMain* TheMainWindow() { return g_mainWindow; }
+
 FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
+    g_mainWindow = this;
     setObjectName("FrmMain");
     buildControls();
     buildMenus();
@@ -29,7 +36,9 @@ FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
     SizeAndCentre();
 }
 
-FrmMain::~FrmMain() = default;
+FrmMain::~FrmMain() {
+    if (g_mainWindow == this) g_mainWindow = nullptr;
+}
 
 void FrmMain::buildControls() {
     auto* client = new QWidget(this);

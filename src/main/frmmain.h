@@ -18,6 +18,10 @@ class QTreeWidget;
 class QTreeWidgetItem;
 class VSplitterBar;
 
+class FrmMain;
+// The one main window of the process, for the dialogs that call it back.
+FrmMain* TheMainWindow();
+
 class FrmMain : public QMainWindow, public ActivationTarget {
     Q_OBJECT
 public:

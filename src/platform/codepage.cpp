@@ -231,20 +231,22 @@ QByteArray ToCodePage(const QString& text, int codePage) {
     const Converters* tables = TablesFor(codePage);
     if (!tables) return IconvEncode(text, codePage);
 
-    QByteArray out;
-    out.reserve(text.size());
     const qsizetype size = text.size();
+    const QChar* src = text.constData();
+    QByteArray out(size, Qt::Uninitialized);
+    char* dst = out.data();
     for (qsizetype i = 0; i < size; ++i) {
-        const char16_t c = text[i].unicode();
+        const char16_t c = src[i].unicode();
         if (c < 0x80) {
-            out.append(static_cast<char>(c));
+            *dst++ = static_cast<char>(c);
             continue;
         }
         // A character beyond the first plane is two units and one '?'.
-        if (QChar::isHighSurrogate(c) && i + 1 < size && text[i + 1].isLowSurrogate()) ++i;
+        if (QChar::isHighSurrogate(c) && i + 1 < size && src[i + 1].isLowSurrogate()) ++i;
         const unsigned char b = tables->charToByte[c];
-        out.append(b ? static_cast<char>(b) : '?');
+        *dst++ = b ? static_cast<char>(b) : '?';
     }
+    out.truncate(dst - out.constData());
     return out;
 }
 
