@@ -16,10 +16,12 @@ long g_count = 0;
 QString g_failed;
 bool g_logging = false;
 QStringList g_log;
+QStringList g_trace;
 
 // Counts one operation; false when it is the one a test made fail.
 bool Step(const char* kind, const QString& path) {
     ++g_count;
+    if (g_logging) g_trace << QString::fromLatin1(kind) + " " + path;
     if (g_failAt != 0 && g_count == g_failAt) {
         g_failed = QString::fromLatin1(kind) + " " + path;
         return false;
@@ -225,4 +227,8 @@ long FileOperationCount() { return g_count; }
 QString FailedFileOperation() { return g_failed; }
 void SetFileOperationLogging(bool on) { g_logging = on; }
 QStringList FileOperationLog() { return g_log; }
-void ClearFileOperationLog() { g_log.clear(); }
+void ClearFileOperationLog() {
+    g_log.clear();
+    g_trace.clear();
+}
+QStringList FileOperationTrace() { return g_trace; }

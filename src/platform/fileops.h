@@ -62,3 +62,5 @@ QString FailedFileOperation();
 void SetFileOperationLogging(bool on);
 QStringList FileOperationLog();
 void ClearFileOperationLog();
+// Every operation counted while logging is on, in order, as "kind path".
+QStringList FileOperationTrace();

@@ -142,3 +142,17 @@ bool SaveEditedContact(const ContactForm& form, const QString& bufferId, bool ed
     if (editFlag || !ok) DiscardStagedFiles(id);
     return ok;
 }
+
+bool RemoveContactFiles(const QString& contactId) {
+    try {
+        ReadContactWithId(contactId);
+        // The commit then has a record to move; it is deleted right after.
+        return WriteRecordFile(StagedRecordPath(contactId),
+                               RecordTextFromBuffer(contactId, ContactBuffer)) &&
+               StageIndexFiles() && RemoveCatLine(contactId) && RemoveCtyLine(contactId) &&
+               RemoveNameLine(contactId) && CommitStagedFiles(contactId, &ContactBuffer) &&
+               Kill(RecordPath(contactId));
+    } catch (const RoutineFailure&) {
+        return false;
+    }
+}

@@ -32,3 +32,9 @@ bool SaveNewContact(const ContactForm& form, const SaveProgress& progress = {},
 // is saved as a new one, with a fresh id.
 bool SaveEditedContact(const ContactForm& form, const QString& bufferId, bool editFlag,
                        const SaveProgress& progress = {});
+
+// Removes one contact: the record read into ContactBuffer and staged, the
+// three lines filtered out, the four files committed, then the live record
+// deleted. Each step runs only if the one before gave true. The work copies
+// stay for the caller's DiscardStagedFiles.
+bool RemoveContactFiles(const QString& contactId);
