@@ -44,3 +44,5 @@ QStringList ScratchStore::tempFiles() const {
 }
 
 QByteArray Cp1252(const char* utf8) { return ToCodePage(QString::fromUtf8(utf8), 1252); }
+
+QString Cp1252ToText(const char* utf8) { return QString::fromUtf8(utf8); }

@@ -24,3 +24,6 @@ private:
 
 // Windows-1252 bytes from a UTF-8 literal, for hand-written store files.
 QByteArray Cp1252(const char* utf8);
+// Text from Windows-1252 bytes written as a UTF-8 literal (for routines that
+// take text already read).
+QString Cp1252ToText(const char* utf8);
