@@ -1,5 +1,17 @@
 #include "store/formatted.h"
 
+void AppendLine(QString& out, std::initializer_list<QStringView> fields) {
+    bool first = true;
+    for (QStringView field : fields) {
+        if (!first) out += u',';
+        first = false;
+        out += u'"';
+        out += field;
+        out += u'"';
+    }
+    out += QStringLiteral("\r\n");
+}
+
 QString WriteLine(const QStringList& fields) {
     QString line;
     for (int i = 0; i < fields.size(); ++i) {
@@ -9,9 +21,14 @@ QString WriteLine(const QStringList& fields) {
     return line + QStringLiteral("\r\n");
 }
 
+bool FieldReader::isDelimiter(qsizetype at) const {
+    const QChar c = text_[at];
+    return c == u',' || c == u'\r' || c == u'\n';
+}
+
 void FieldReader::skipDelimiter() {
     if (atEnd()) return;
-    QChar c = text_[pos_];
+    const QChar c = text_[pos_];
     if (c == u',') {
         ++pos_;
     } else if (c == u'\r') {
@@ -22,22 +39,22 @@ void FieldReader::skipDelimiter() {
     }
 }
 
-bool FieldReader::read(QString& field) {
+bool FieldReader::read(QStringView& field) {
     while (!atEnd() && (text_[pos_] == u' ' || text_[pos_] == u'\t')) ++pos_;
     if (atEnd()) return false;
-    field.clear();
     if (text_[pos_] == u'"') {
         qsizetype close = text_.indexOf(u'"', pos_ + 1);
         if (close < 0) close = text_.size();
         field = text_.mid(pos_ + 1, close - pos_ - 1);
         pos_ = close + 1;
         // Whatever stands between the closing quote and the delimiter is dropped.
-        while (!atEnd() && text_[pos_] != u',' && text_[pos_] != u'\r' && text_[pos_] != u'\n') ++pos_;
+        while (!atEnd() && !isDelimiter(pos_)) ++pos_;
     } else {
-        qsizetype start = pos_;
-        while (!atEnd() && text_[pos_] != u',' && text_[pos_] != u'\r' && text_[pos_] != u'\n') ++pos_;
-        field = text_.mid(start, pos_ - start);
-        while (field.endsWith(u' ')) field.chop(1);
+        const qsizetype start = pos_;
+        while (!atEnd() && !isDelimiter(pos_)) ++pos_;
+        qsizetype end = pos_;
+        while (end > start && text_[end - 1] == u' ') --end;
+        field = text_.mid(start, end - start);
     }
     skipDelimiter();
     return true;

@@ -1,7 +1,7 @@
 #include "store/indexfiles.h"
 
 #include <functional>
-#include <optional>
+#include <array>
 #include "platform/codepage.h"
 #include "platform/fileops.h"
 #include "store/formatted.h"
@@ -34,13 +34,14 @@ bool Append(const QString& index, const QStringList& fields) {
 
 enum class PastEnd { Fails, EndsFile };
 
-// Gives the line to write for a line read, or nothing to leave it out.
-using LineRule = std::function<std::optional<QStringList>(const QStringList& fields)>;
+// Writes the line to keep for a line read (or nothing, to leave it out).
+using Fields = std::array<QStringView, 3>;
+using LineRule = std::function<void(QString& out, const Fields& fields)>;
 
 // Streams the work copy (file number 2) into the staged file (number 1),
 // line by line, by formatted reading and writing.
 bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd pastEnd,
-            const std::function<QString()>& tail = {}) {
+            const std::function<void(QString& out)>& tail = {}) {
     const QString staged = StagedIndex(index);
     if (g_fileNumberOpen[1]) return false;
     OutputFile output;
@@ -50,35 +51,33 @@ bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd 
     QByteArray input;
     if (!ReadWholeFile(WorkCopy(index), input)) return false;
     Claim(2);
-    FieldReader reader(FromAnsi(input));
-    QString text;
+    const QString text = FromAnsi(input);
+    FieldReader reader(text);
+    QString out;
+    out.reserve(text.size() + 64);
     bool endedEarly = false;
     while (!reader.atEnd() && !endedEarly) {
-        QStringList fields;
-        for (int i = 0; i < fieldCount; ++i) {
-            QString field;
-            if (!reader.read(field)) {
-                if (pastEnd == PastEnd::Fails) return false;
-                endedEarly = true;
-                break;
-            }
-            fields << field;
+        Fields fields;
+        for (int i = 0; i < fieldCount && !endedEarly; ++i) {
+            if (reader.read(fields[i])) continue;
+            if (pastEnd == PastEnd::Fails) return false;
+            endedEarly = true;
         }
-        if (endedEarly) break;
-        if (auto written = rule(fields)) text += WriteLine(*written);
+        if (!endedEarly) rule(out, fields);
     }
-    if (!endedEarly && tail) text += tail();
-    if (!output.write(ToAnsi(text)) || !output.close()) return false;
+    if (!endedEarly && tail) tail(out);
+    if (!output.write(ToAnsi(out)) || !output.close()) return false;
     Release(1);
     Release(2);
     if (endedEarly) return true;
     return FileExists(staged);
 }
 
-LineRule RemoveWhere(int field, const QString& contactId) {
-    return [=](const QStringList& f) -> std::optional<QStringList> {
-        if (f[field] == contactId) return std::nullopt;
-        return f;
+LineRule RemoveWhere(int field, const QString& contactId, int fieldCount) {
+    return [=](QString& out, const Fields& f) {
+        if (f[field] == contactId) return;
+        if (fieldCount == 3) AppendLine(out, {f[0], f[1], f[2]});
+        else AppendLine(out, {f[0], f[1]});
     };
 }
 }  // namespace
@@ -96,43 +95,45 @@ bool AppendNameLine(const QString& contactId, const QString& name) {
 }
 
 bool ReplaceCatLine(const QString& contactId, const QString& country, const QString& categoryId) {
-    return Stream("cat", 3, [&](const QStringList& f) -> std::optional<QStringList> {
-        if (f[2] != contactId) return f;
-        return QStringList{country, categoryId, contactId};
+    return Stream("cat", 3, [&](QString& out, const Fields& f) {
+        if (f[2] != contactId) AppendLine(out, {f[0], f[1], f[2]});
+        else AppendLine(out, {country, categoryId, contactId});
     }, PastEnd::Fails);
 }
 
 bool ReplaceCtyLine(const QString& contactId, const QString& country, const QString& categoryId,
                     CtyReplace mode) {
-    const QString second = mode == CtyReplace::CategoryIdInPlaceOfContact ? categoryId : contactId;
-    return Stream("cty", 2, [&](const QStringList& f) -> std::optional<QStringList> {
-        if (f[1] != contactId) return f;
-        return QStringList{country, second};
+    const QString& second = mode == CtyReplace::CategoryIdInPlaceOfContact ? categoryId : contactId;
+    return Stream("cty", 2, [&](QString& out, const Fields& f) {
+        if (f[1] != contactId) AppendLine(out, {f[0], f[1]});
+        else AppendLine(out, {country, second});
     }, PastEnd::Fails);
 }
 
 bool ReplaceNameLine(const QString& contactId, const QString& name, NameReplace mode) {
     bool matched = false;
-    return Stream("name", 2, [&](const QStringList& f) -> std::optional<QStringList> {
-        if (f[0] != contactId) return f;
+    return Stream("name", 2, [&](QString& out, const Fields& f) {
+        if (f[0] != contactId) {
+            AppendLine(out, {f[0], f[1]});
+            return;
+        }
         matched = true;
-        return QStringList{f[0], name};
-    }, PastEnd::Fails, [&]() -> QString {
-        if (matched || mode != NameReplace::AppendWhenMissing) return QString();
-        return WriteLine({contactId, name});
+        AppendLine(out, {f[0], name});
+    }, PastEnd::Fails, [&](QString& out) {
+        if (!matched && mode == NameReplace::AppendWhenMissing) AppendLine(out, {contactId, name});
     });
 }
 
 bool RemoveCatLine(const QString& contactId) {
-    return Stream("cat", 3, RemoveWhere(2, contactId), PastEnd::Fails);
+    return Stream("cat", 3, RemoveWhere(2, contactId, 3), PastEnd::Fails);
 }
 
 bool RemoveCtyLine(const QString& contactId) {
-    return Stream("cty", 2, RemoveWhere(1, contactId), PastEnd::Fails);
+    return Stream("cty", 2, RemoveWhere(1, contactId, 2), PastEnd::Fails);
 }
 
 bool RemoveNameLine(const QString& contactId) {
-    return Stream("name", 2, RemoveWhere(0, contactId), PastEnd::EndsFile);
+    return Stream("name", 2, RemoveWhere(0, contactId, 2), PastEnd::EndsFile);
 }
 
 NameLine SplitNameLine(const QString& line) {
