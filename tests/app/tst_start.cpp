@@ -3,9 +3,12 @@
 // the keys written when the main window closes.
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
 #include <QDir>
 #include <QTest>
+#include "app/frmprogress.h"
 #include "app/general.h"
+#include "app/libraries.h"
 #include "app/globals.h"
 #include "app/inifile.h"
 #include "main/frmmain.h"
@@ -137,6 +140,23 @@ private slots:
         QCOMPARE(store.read(store.tempFile("addr_cat.dat")), snapshot);
         window->close();
         QCoreApplication::processEvents();
+    }
+
+    void theSplashNamesTheOwner() {
+        ScratchStore store;
+        LoadAllLibraries(store);
+        OwnerName = "Ingrid";
+        frmprogress splash;
+        splash.formLoad();
+        QCOMPARE(splash.windowTitle(), GetLanguageString(308));
+        auto* caption = splash.findChild<QLabel*>("lbcaption");
+        QVERIFY(caption);
+        QVERIFY(GetLanguageString(536).contains("%username"));
+        QCOMPARE(caption->text(), QString(GetLanguageString(536)).replace("%username", "Ingrid"));
+        QCOMPARE(caption->font().pointSize(), 8);
+        QCOMPARE(caption->property("fontCharset").toInt(), 0);
+        QVERIFY(!SkinEnabled);  // no skins on this system
+        UnloadAllLibraries();
     }
 
     void theOwnerComesFromTheDriveAndTheWarningWhenStagingIsImpossible() {
