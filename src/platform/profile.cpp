@@ -209,3 +209,23 @@ bool WritePrivateProfileString(const QString& section, const QString& key,
 }
 
 long ProfileReadCallCount() { return g_readCalls; }
+
+bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values) {
+    values.clear();
+    QByteArray bytes;
+    if (!ReadWholeFile(file, bytes)) return false;
+    const QString wanted = Trimmed(section);
+    bool inSection = false;
+    for (const Line& line : SplitLines(bytes)) {
+        const Parsed p = ParseLine(bytes.mid(line.start, line.contentEnd - line.start));
+        if (p.kind == Kind::Section) {
+            if (inSection) break;  // only the first section of the name counts
+            inSection = SameName(p.name, wanted);
+            continue;
+        }
+        if (!inSection || p.kind != Kind::Key) continue;
+        const QString key = p.name.toLower();
+        if (!values.contains(key)) values.insert(key, DropQuotes(p.value));  // the first line wins
+    }
+    return true;
+}

@@ -4,6 +4,7 @@
 // value in place, a missing file or key gives the default, surrounding
 // double quotes of a value are dropped on reading. Texts are in the ANSI
 // code page of the process.
+#include <QHash>
 #include <QString>
 
 // Copies at most size - 1 characters of the value (or default) into
@@ -21,3 +22,9 @@ bool WritePrivateProfileString(const QString& section, const QString& key,
 // Number of GetPrivateProfileString calls made so far (for tests of the
 // growing buffer).
 long ProfileReadCallCount();
+
+// Every key of the first section of that name, read in one pass of the
+// file: what GetPrivateProfileString would give for each key, looked up by
+// the key in lower case. False (and no values) when the file can't be read.
+using ProfileValues = QHash<QString, QString>;
+bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values);

@@ -3,6 +3,7 @@
 #include "app/inifile.h"
 #include "platform/codepage.h"
 #include "platform/fileops.h"
+#include "platform/profile.h"
 #include "store/paths.h"
 #include "store/text.h"
 
@@ -12,29 +13,38 @@ bool ContactEditFlag = false;
 void ClearContactBuffer() { ContactBuffer = ContactRecord(); }
 
 namespace {
-QString Key(const QString& path, const char* key) { return GetIniValue("Setting", key, "", path); }
+// A record is read in one pass of its file; each key is then what the
+// profile call would give for it, or empty when missing.
+class RecordKeys {
+public:
+    explicit RecordKeys(const QString& path) { ReadProfileSection("Setting", path, values_); }
+    QString operator()(const char* key) const { return values_.value(QString::fromLatin1(key)); }
+private:
+    ProfileValues values_;
+};
 
 // Reads the keys in the file's order; the country's conversion may fail,
 // and then the rest of the buffer stays as it was.
 bool ReadKeys(const QString& contactId, bool idFromFile) {
     const QString path = RecordPath(contactId);
     if (!FileExists(path)) return false;
+    const RecordKeys Key(path);
     ContactRecord& b = ContactBuffer;
-    b.infoid = idFromFile ? Key(path, "infoid") : contactId;
-    b.infoname = Key(path, "infoname");
-    b.category = Key(path, "category");
-    if (!TextToInt16(Key(path, "country"), b.country)) return false;
-    b.tel1 = Key(path, "tel1");
-    b.ext1 = Key(path, "ext1");
-    b.tel2 = Key(path, "tel2");
-    b.ext2 = Key(path, "ext2");
-    b.mobile = Key(path, "mobile");
-    b.fax = Key(path, "fax");
-    b.company = Key(path, "company");
-    b.designation = Key(path, "designation");
-    b.addr = Key(path, "addr");
-    b.notes = Key(path, "notes");
-    b.mail = Key(path, "mail");
+    b.infoid = idFromFile ? Key("infoid") : contactId;
+    b.infoname = Key("infoname");
+    b.category = Key("category");
+    if (!TextToInt16(Key("country"), b.country)) return false;
+    b.tel1 = Key("tel1");
+    b.ext1 = Key("ext1");
+    b.tel2 = Key("tel2");
+    b.ext2 = Key("ext2");
+    b.mobile = Key("mobile");
+    b.fax = Key("fax");
+    b.company = Key("company");
+    b.designation = Key("designation");
+    b.addr = Key("addr");
+    b.notes = Key("notes");
+    b.mail = Key("mail");
     return true;
 }
 
@@ -51,11 +61,12 @@ bool ReadContactWithId(const QString& contactId) { return ReadKeys(contactId, tr
 bool ReadContactSummary(const QString& contactId) {
     const QString path = RecordPath(contactId);
     if (!FileExists(path)) return false;
-    ContactBuffer.infoname = Key(path, "infoname");
-    ContactBuffer.mail = Key(path, "mail");
-    ContactBuffer.category = Key(path, "category");
-    ContactBuffer.company = Key(path, "company");
-    ContactBuffer.designation = Key(path, "designation");
+    const RecordKeys Key(path);
+    ContactBuffer.infoname = Key("infoname");
+    ContactBuffer.mail = Key("mail");
+    ContactBuffer.category = Key("category");
+    ContactBuffer.company = Key("company");
+    ContactBuffer.designation = Key("designation");
     return true;
 }
 

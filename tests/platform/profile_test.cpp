@@ -140,3 +140,22 @@ TEST(Profile, TextIsInTheAnsiCodePage) {
     EXPECT_TRUE(WritePrivateProfileString("OwnerInfo", "Name", QString::fromUtf8("Zoë € Ж"), ini));
     EXPECT_EQ(store.read(ini), QByteArray("[OwnerInfo]\r\nName=Zo\xEB \x80 ?\r\n"));
 }
+
+TEST(Profile, ASectionReadInOnePassAgreesWithKeyByKeyReading) {
+    ScratchStore store;
+    const QString file = store.appFile("addr00001.b64");
+    store.write(file, Cp1252("[setting]\r\nInfoName = \"Åsa\" \r\nmail=a@b\r\nMAIL=second\r\n"
+                             "[Other]\r\ntel1=9\r\n[Setting]\r\ntel1=late\r\n"));
+    ProfileValues values;
+    ASSERT_TRUE(ReadProfileSection("Setting", file, values));
+    for (const char* key : {"infoname", "mail", "tel1", "notes"}) {
+        QString one;
+        GetPrivateProfileString("Setting", key, "", one, 4096, file);
+        EXPECT_EQ(values.value(key), one) << key;
+    }
+    EXPECT_EQ(values.value("infoname"), QString::fromUtf8("Åsa"));
+    EXPECT_EQ(values.value("mail"), "a@b");
+    EXPECT_FALSE(values.contains("tel1"));  // only in later sections
+    EXPECT_FALSE(ReadProfileSection("Setting", store.appFile("missing"), values));
+    EXPECT_TRUE(values.isEmpty());
+}
