@@ -2,12 +2,22 @@
 // The edit dialog: shows the contact in ContactBuffer, lets the user change
 // every field, and writes the change through the staged write. It closes
 // itself after a successful save.
-#include "platform/modal.h"
+#include "dialogs/contactdialog.h"
 
-class frmedittask : public Form {
+class frmedittask : public ContactDialog {
     Q_OBJECT
 public:
     explicit frmedittask(QWidget* parent = nullptr);
     void formLoad() override;
     void formActivate() override;  // fills the fields from ContactBuffer, every time
+
+    QPushButton* cmdLink;  // hands the e-mail address to the mail program
+
+protected:
+    bool WriteContact(const ContactForm& form, const SaveProgress& progress) override;
+    void SaveSucceeded() override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    void cmdLinkClick();
 };
