@@ -73,7 +73,12 @@ StartResult Main(FrmMain** mainWindow) {
 
         auto* window = new FrmMain;
         window->setAttribute(Qt::WA_DeleteOnClose);
-        window->formLoad();
+        try {
+            window->formLoad();
+        } catch (...) {
+            delete window;
+            throw;
+        }
         window->show();
         if (mainWindow) *mainWindow = window;
         return StartResult::Started;

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QToolBar>
 #include <QTreeWidget>
 #include "app/captionrule.h"
@@ -19,6 +20,7 @@
 #include "platform/msgbox.h"
 #include "platform/pointer.h"
 #include "platform/sysinfo.h"
+#include "store/failure.h"
 #include "store/snapshot.h"
 
 namespace {
@@ -33,6 +35,7 @@ FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
     buildControls();
     buildMenus();
     buildToolbar();
+    wireControls();
     SizeAndCentre();
 }
 
@@ -75,6 +78,7 @@ void FrmMain::buildControls() {
     ListView1->setUniformRowHeights(true);
     ListView1->header()->setStretchLastSection(false);
     ListView1->header()->setSectionsClickable(true);
+    ListView1->header()->setMinimumSectionSize(0);  // the id column is all but zero wide
 
     // Starting places in twips; the layout routines move them from here.
     twips_[VSplitter] = QRect(2000, 800, 60, 4000);
@@ -90,6 +94,12 @@ void FrmMain::formLoad() {
     FillCountryFilter();
     qint16 country = 0;
     TextToInt16(GetIniValue("Setting", "Country", "0", SettingFile()), country);
+    // A stored index beyond the list is an invalid value: the load fails, and
+    // with it the start. Without a country library the list is empty and
+    // the program runs on with no country chosen.
+    if (cmbCountry->count() > 0 && (country < -1 || country >= cmbCountry->count()))
+        throw RoutineFailure("Invalid property value");
+    if (cmbCountry->count() == 0) country = -1;
     // Setting the stored index raises the first click, which the guard swallows.
     cmbCountry->setCurrentIndex(country);
     if (cmbCountry->currentIndex() != country) onCountryClick();
@@ -119,11 +129,15 @@ void FrmMain::LoadCaptions() {
 }
 
 void FrmMain::FillCountryFilter() {
+    // Filling raises no click and leaves no item chosen: the click comes
+    // when the load sets the stored index.
+    const QSignalBlocker quiet(cmbCountry);
     for (int number = 100; number <= 999; ++number) {
         const QString country = GetCountryString(number);
         if (country.isEmpty()) break;
         cmbCountry->addItem(country);
     }
+    cmbCountry->setCurrentIndex(-1);
 }
 
 void FrmMain::ReadLayoutSettings() {

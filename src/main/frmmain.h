@@ -38,6 +38,7 @@ public:
     int FindKey = 0;             // 1 name, 2 e-mail, 3 company: set by the toolbar's find entries
     int CategoryTask = 0;
     QString strClashName;
+    QString Tag;                 // the window's tag text: the id of the category right-clicked
 
     // ---- routines the dialogs call back ----
     void LoadCategory();
@@ -55,6 +56,22 @@ public:
     VSplitterBar* VSplitter = nullptr;
     QTreeWidget* ListView1 = nullptr;
 
+    // ---- menus that the commands reach by name ----
+    QAction* mnuDelete_info = nullptr;
+    QAction* mnuFind_info = nullptr;
+    QAction* mnuImportOE = nullptr;
+    QAction* mnuImportMSO = nullptr;
+    QAction* mnuExportOE = nullptr;
+    QAction* mnuExportMSO = nullptr;
+    QMenu* mnuRightClick = nullptr;          // over the list
+    QAction* mnuDelete_p = nullptr;
+    QAction* mnuDuplicate_c = nullptr;
+    QAction* mnuEdit_p = nullptr;
+    QAction* mnuPrint_p = nullptr;
+    QMenu* mnuTreeViewRightClick = nullptr;  // over the tree
+    QAction* mnuDeleteCategory = nullptr;
+    QMenu* mnuTreeViewMouseUp = nullptr;     // never popped up
+
     // Layout, in twips (1440 an inch at the screen's logical resolution).
     void LayoutMainWindow();
     void PlaceFromSplitter();
@@ -67,12 +84,14 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
     void buildControls();
     void buildMenus();        // menu bar and the three pop-up menus
     void buildToolbar();
+    void wireControls();      // the events of the tree, the drop-down and the list
     void LoadCaptions();
     void LoadMenuCaptions();  // the menu bar, the pop-up menus and the toolbar
     void FillCountryFilter();
@@ -100,7 +119,8 @@ private:
     void onToolbarButton(const QString& key);
 
     bool unloaded_ = false;
-    int sortColumn_ = -1;
+    int sortColumn_ = 0;     // the list's sort key: column 1 until a header is clicked
+    bool sorted_ = false;    // the list's Sorted property, set by the first header click
     Qt::SortOrder sortOrder_ = Qt::AscendingOrder;
     // Each placed control's rectangle in twips, as the layout routines set it.
     QHash<QWidget*, QRect> twips_;

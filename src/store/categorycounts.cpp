@@ -24,6 +24,13 @@ Fields FirstTwoFields(const QString& line) {
     return {StripEnds(Element(parts, 0)), StripEnds(Element(parts, 1))};
 }
 
+// StripEnds on a view: one character is a failure, empty stays empty.
+QStringView StripEndsOfView(QStringView text) {
+    if (text.isEmpty()) return text;
+    if (text.size() == 1) throw RoutineFailure("StripEnds: one character");
+    return text.mid(1, text.size() - 2);
+}
+
 // Node keys are unique in the tree: a second category of the same id can't
 // be added.
 void AddNode(QList<CategoryNode>& nodes, QSet<QString>& keys, const QString& id,
@@ -49,14 +56,22 @@ void BuildNodes(const QString& categoryText, const QString& catText, const QStri
     QList<Fields> categories;
     for (const QString& line : categoryLines) categories.append(FirstTwoFields(line));
     // Every row of cat.dat is read before any is counted, so a damaged row
-    // anywhere ends the routine before the first category is added.
-    QHash<QString, int> countsInCountry;
-    for (const QString& line : WholeFileLines(catText)) {
-        const Fields row = FirstTwoFields(line);
-        if (row.first == filterCountry) ++countsInCountry[row.second];
+    // anywhere ends the routine before the first category is added. The
+    // rows are many: they are read as views of the text, not copied.
+    QHash<QStringView, int> countsInCountry;
+    const QStringView text(catText);
+    for (qsizetype start = 0, end; (end = text.indexOf(u"\r\n", start)) >= 0; start = end + 2) {
+        const QStringView line = text.mid(start, end - start);
+        const qsizetype comma = line.indexOf(u',');
+        if (comma < 0) throw RoutineFailure("line with too few fields");
+        const qsizetype next = line.indexOf(u',', comma + 1);
+        const QStringView country = StripEndsOfView(line.left(comma));
+        const QStringView category =
+            StripEndsOfView(line.mid(comma + 1, next < 0 ? -1 : next - comma - 1));
+        if (country == filterCountry) ++countsInCountry[category];
     }
     for (const Fields& category : categories) {
-        const int count = countsInCountry.value(category.first, 0);
+        const int count = countsInCountry.value(QStringView(category.first), 0);
         if (count > kCounterMax) throw RoutineFailure("category count overflow");
         AddNode(nodes, keys, category.first, category.second, count);
     }

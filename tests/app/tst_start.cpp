@@ -142,6 +142,23 @@ private slots:
         QCoreApplication::processEvents();
     }
 
+    void aStoredCountryBeyondTheListEndsTheStartSilently() {
+        ScratchStore store;
+        InstallLibraries(store);
+        EnsureStoreFiles();
+        setSetting(store, "Country=113", "Country=9999");
+        MsgBoxScript boxes;
+        FrmMain* window = nullptr;
+        QCOMPARE(Main(&window), StartResult::Failed);
+        QVERIFY(!window);
+        QVERIFY(!TheMainWindow());
+        QCOMPARE(boxes.count(), 0);
+        // The one failure path unloads the language and edition libraries.
+        QVERIFY(!store.tempFiles().contains("ma_langfile0409.dll"));
+        QVERIFY(!store.tempFiles().contains("ma_edition_0409.dll"));
+        UnloadAllLibraries();
+    }
+
     void theSplashNamesTheOwner() {
         ScratchStore store;
         LoadAllLibraries(store);
