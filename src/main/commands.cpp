@@ -284,10 +284,9 @@ void FrmMain::buildMenus() {
 
 void FrmMain::buildToolbar() {
     QStyle* style = this->style();
-    bool first = true;
+    // Buttons stand at the even places 2 to 12, separators at the odd ones.
     for (const ToolbarButton& b : kToolbarButtons) {
-        if (!first) Toolbar1->addSeparator();
-        first = false;
+        Toolbar1->addSeparator();
         auto* button = new QToolButton(Toolbar1);
         const QString key = QString::fromLatin1(b.key);
         button->setObjectName(key);
