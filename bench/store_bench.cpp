@@ -60,8 +60,9 @@ double MedianMicros(int rounds, F f) {
 // The floor: three whole-file copies to the staging area and four moves back.
 void Floor(const QString& app, const QString& temp, const QString& id) {
     for (const char* index : {"cat", "cty", "name"}) {
-        fs::copy_file((app + "/" + index + ".dat").toStdString(),
-                      (temp + "/floor_" + index + ".dat").toStdString(), fs::copy_options::overwrite_existing);
+        std::ifstream in((app + "/" + index + ".dat").toStdString(), std::ios::binary);
+        std::ofstream out((temp + "/floor_" + index + ".dat").toStdString(), std::ios::binary | std::ios::trunc);
+        out << in.rdbuf();
     }
     WriteFile(temp + "/floor_record.b64", "[Setting]\r\ninfoid=" + id.toLatin1() + "\r\n");
     for (const char* index : {"cat", "cty", "name"})
