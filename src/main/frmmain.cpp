@@ -21,6 +21,7 @@
 #include "platform/pointer.h"
 #include "platform/sysinfo.h"
 #include "store/failure.h"
+#include "store/paths.h"
 #include "store/snapshot.h"
 
 namespace {
@@ -93,7 +94,9 @@ void FrmMain::formLoad() {
     CopyAddrFile();
     FillCountryFilter();
     qint16 country = 0;
-    TextToInt16(GetIniValue("Setting", "Country", "0", SettingFile()), country);
+    // A stored value that isn't a 16-bit number fails the load as well.
+    if (!TextToInt16(GetIniValue("Setting", "Country", "0", SettingFile()), country))
+        throw RoutineFailure("Type mismatch");
     // A stored index beyond the list is an invalid value: the load fails, and
     // with it the start. Without a country library the list is empty and
     // the program runs on with no country chosen.
@@ -104,8 +107,7 @@ void FrmMain::formLoad() {
     cmbCountry->setCurrentIndex(country);
     if (cmbCountry->currentIndex() != country) onCountryClick();
     LoadCategory();
-    const QString data = AppPath() + "/data";
-    if (!FolderExists(data)) MakeFolder(data);
+    if (!FolderExists(DataFolder())) MakeFolder(DataFolder());
     ReadLayoutSettings();
     if (!IsNTAdmin())
         MsgBox(WithOwnerName(GetEditionString(528)), MsgExclamation, GetLanguageString(300));

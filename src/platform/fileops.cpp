@@ -128,7 +128,7 @@ bool FolderExists(const QString& path) {
 bool MakeFolder(const QString& path) {
     if (!Step("mkdir", path)) return false;
     Log("mkdir", path);
-    return ::mkdir(Native(path).constData(), 0700) == 0;
+    return ::mkdir(Native(path).constData(), 0755) == 0;
 }
 
 bool CopyFile(const QString& source, const QString& target) {

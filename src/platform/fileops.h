@@ -16,7 +16,7 @@ bool FileExists(const QString& path);
 // or hidden file is not seen.
 bool NormalFileExists(const QString& path);
 bool FolderExists(const QString& path);
-bool MakeFolder(const QString& path);  // one level, mode 0700 in the staging area
+bool MakeFolder(const QString& path);  // one level
 
 // FileCopy: the target is replaced if it exists.
 bool CopyFile(const QString& source, const QString& target);

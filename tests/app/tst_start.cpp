@@ -159,6 +159,17 @@ private slots:
         UnloadAllLibraries();
     }
 
+    void aStoredCountryThatIsNoNumberEndsTheStartToo() {
+        ScratchStore store;
+        InstallLibraries(store);
+        EnsureStoreFiles();
+        setSetting(store, "Country=113", "Country=abc");
+        MsgBoxScript boxes;
+        QCOMPARE(Main(), StartResult::Failed);
+        QCOMPARE(boxes.count(), 0);
+        UnloadAllLibraries();
+    }
+
     void theSplashNamesTheOwner() {
         ScratchStore store;
         LoadAllLibraries(store);
