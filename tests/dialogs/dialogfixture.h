@@ -53,15 +53,6 @@ struct DialogStore {
     QByteArray record(const QString& id) const { return file("data/addr" + id + ".b64"); }
 };
 
-// The index of a country in the country library, as the drop-down lists it.
-inline int CountryIndex(const QString& name) {
-    for (int number = 100; number <= 999; ++number) {
-        const QString text = GetCountryString(number);
-        if (text.isEmpty()) break;
-        if (text == name) return number - 100;
-    }
-    return -1;
-}
 
 // A message box as one line: title, icon number and text.
 inline QString Box(const MsgBoxRequest& box) {

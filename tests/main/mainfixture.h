@@ -25,15 +25,6 @@
 #include "support/msgboxscript.h"
 #include "support/scratch.h"
 
-// The list index of a country in the country library.
-inline int CountryIndex(const QString& name) {
-    for (int number = 100; number <= 999; ++number) {
-        const QString text = GetCountryString(number);
-        if (text.isEmpty()) break;
-        if (text == name) return number - 100;
-    }
-    return -1;
-}
 
 struct MainStore {
     ScratchStore store;

@@ -9,3 +9,5 @@ void InstallLibraries(const ScratchStore& store);
 // Sets LanguageId "0409", CharsetId "0", copies and loads all four.
 void LoadAllLibraries(const ScratchStore& store);
 void UnloadAllLibraries();
+// The list index of a country in the loaded country library, -1 if absent.
+int CountryIndex(const QString& name);
