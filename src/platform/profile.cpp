@@ -214,18 +214,39 @@ bool ReadProfileSection(const QString& section, const QString& file, ProfileValu
     values.clear();
     QByteArray bytes;
     if (!ReadWholeFile(file, bytes)) return false;
+    // One decoding of the whole file: no line end can stand inside a
+    // character of the code pages in use.
+    const QString text = FromAnsi(bytes);
+    const QStringView all(text);
     const QString wanted = Trimmed(section);
+    auto trim = [](QStringView v) {
+        while (!v.isEmpty() && IsBlank(v.front())) v = v.mid(1);
+        while (!v.isEmpty() && IsBlank(v.back())) v.chop(1);
+        return v;
+    };
     bool inSection = false;
-    for (const Line& line : SplitLines(bytes)) {
-        const Parsed p = ParseLine(bytes.mid(line.start, line.contentEnd - line.start));
-        if (p.kind == Kind::Section) {
-            if (inSection) break;  // only the first section of the name counts
-            inSection = SameName(p.name, wanted);
-            continue;
+    qsizetype pos = 0;
+    while (pos < all.size()) {
+        qsizetype lf = all.indexOf(u'\n', pos);
+        if (lf < 0) lf = all.size();
+        QStringView line = all.mid(pos, lf - pos);
+        pos = lf + 1;
+        if (line.endsWith(u'\r')) line.chop(1);
+        line = trim(line);
+        if (line.startsWith(u'[')) {
+            const qsizetype close = line.lastIndexOf(u']');
+            if (close > 0) {
+                if (inSection) break;  // only the first section of the name counts
+                inSection = trim(line.mid(1, close - 1)).compare(wanted, Qt::CaseInsensitive) == 0;
+                continue;
+            }
         }
-        if (!inSection || p.kind != Kind::Key) continue;
-        const QString key = p.name.toLower();
-        if (!values.contains(key)) values.insert(key, DropQuotes(p.value));  // the first line wins
+        if (!inSection) continue;
+        const qsizetype eq = line.indexOf(u'=');
+        if (eq < 0) continue;
+        const QString key = trim(line.left(eq)).toString().toLower();
+        if (!values.contains(key))  // the first line of a key wins
+            values.insert(key, DropQuotes(trim(line.mid(eq + 1)).toString()));
     }
     return true;
 }
