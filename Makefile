@@ -6,7 +6,7 @@ BUILD := build
 JOBS := $(shell nproc 2>/dev/null || echo 2)
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps build run test bench clean
+.PHONY: all deps configure build run test bench clean
 
 all: build
 
@@ -21,11 +21,15 @@ deps:
 	  $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $$missing; \
 	fi
 
-build: deps
+configure: deps
 	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo
+
+build: configure
 	cmake --build $(BUILD) -j $(JOBS)
 
-run: build
+# Only the program and its libraries: the tests are built by `make test`.
+run: configure
+	cmake --build $(BUILD) -j $(JOBS) --target tandry
 	$(BUILD)/app/tandry
 
 test: build
@@ -33,6 +37,7 @@ test: build
 
 bench: build
 	$(BUILD)/bench/store_bench
+	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/list_bench
 
 clean:
 	rm -rf $(BUILD)
