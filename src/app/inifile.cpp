@@ -52,7 +52,6 @@ bool EnsureFile(const QString& name, const QByteArray& content) {
     return FileExists(path);
 }
 
-bool KillIfThere(const QString& path) { return !FileExists(path) || Kill(path); }
 }  // namespace
 
 bool EnsureStoreFiles() {
@@ -63,7 +62,7 @@ bool EnsureStoreFiles() {
     // addr_category.tmp stands where addr_cat.tmp would be expected; the
     // staging deletes addr_cat.tmp itself before its next use.
     for (const char* leftover : {"addr_category.tmp", "addr_cty.tmp", "addr_name.tmp"})
-        if (!KillIfThere(TempFile(leftover))) return false;
+        if (!KillIfExists(TempFile(leftover))) return false;
     return true;
 }
 

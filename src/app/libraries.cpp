@@ -13,22 +13,18 @@ LibraryHandle g_edition = 0;
 LibraryHandle g_country = 0;
 LibraryHandle g_phoneCode = 0;
 
-void KillIfThere(const QString& path) {
-    if (FileExists(path)) Kill(path);
-}
-
 // Makes the staging folders when missing, replaces the working copy by a
 // fresh copy of the source. Every failure is passed over.
 void RefreshWorkingCopy(const QString& source, const QString& copy) {
     EnsureTempArea();
-    KillIfThere(copy);
+    KillIfExists(copy);
     CopyFile(AppFile(source), copy);
 }
 
 void Unload(LibraryHandle& handle, const QString& copy) {
     FreeLibrary(handle);
     handle = 0;
-    KillIfThere(copy);
+    KillIfExists(copy);
 }
 
 QString Lookup(LibraryHandle handle, int id) {
@@ -71,8 +67,8 @@ void UnloadPhoneCodeLibrary() { Unload(g_phoneCode, TempFile("addr_phonecode.dll
 // Runs while the two libraries are still loaded. On Windows that deletion
 // fails; here the loaded table lives on in memory, so the copies go now.
 void DeleteCountryLibraries() {
-    KillIfThere(TempFile("addr_country.dll"));
-    KillIfThere(TempFile("addr_phonecode.dll"));
+    KillIfExists(TempFile("addr_country.dll"));
+    KillIfExists(TempFile("addr_phonecode.dll"));
 }
 
 QString GetLanguageString(int id) { return Lookup(g_language, id); }

@@ -143,6 +143,8 @@ bool Kill(const QString& path) {
     return ::unlink(Native(path).constData()) == 0;
 }
 
+bool KillIfExists(const QString& path) { return !FileExists(path) || Kill(path); }
+
 bool MoveFile(const QString& source, const QString& target) {
     if (!Step("move", target)) return false;
     Log("move", source + " -> " + target);

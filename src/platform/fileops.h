@@ -22,6 +22,9 @@ bool MakeFolder(const QString& path);  // one level
 bool CopyFile(const QString& source, const QString& target);
 // Kill: deletes one file; false when it isn't there or can't go.
 bool Kill(const QString& path);
+// Deletes the file when the existence test finds it: true when it is gone
+// or never was, false when the delete failed.
+bool KillIfExists(const QString& path);
 // Name: moves a file; fails when the target exists. Across file systems
 // it is a copy followed by a delete.
 bool MoveFile(const QString& source, const QString& target);

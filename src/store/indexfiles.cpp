@@ -21,7 +21,7 @@ void Release(int number) { g_fileNumberOpen[number] = false; }
 // append to a missing work copy makes a file of the one new line.
 bool Append(const QString& index, const QStringList& fields) {
     const QString staged = StagedIndex(index);
-    if (FileExists(staged) && !Kill(staged)) return false;
+    if (!KillIfExists(staged)) return false;
     if (g_fileNumberOpen[1]) return false;
     OutputFile file;
     if (!file.openForAppend(WorkCopy(index))) return false;

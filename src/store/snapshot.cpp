@@ -5,7 +5,7 @@
 
 namespace {
 bool Refresh(const QString& source, const QString& target) {
-    if (FileExists(target) && !Kill(target)) return false;
+    if (!KillIfExists(target)) return false;
     return CopyFile(source, target);
 }
 }  // namespace
@@ -17,6 +17,6 @@ void CopyAddrFile() {
 }
 
 void DelAddrFile() {
-    if (FileExists(CatSnapshot())) Kill(CatSnapshot());
-    if (FileExists(CategorySnapshot())) Kill(CategorySnapshot());
+    KillIfExists(CatSnapshot());
+    KillIfExists(CategorySnapshot());
 }

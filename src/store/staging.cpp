@@ -12,17 +12,13 @@
 namespace {
 const char* const kIndexes[] = {"cat", "cty", "name"};
 
-void KillIfThere(const QString& path) {
-    if (FileExists(path)) Kill(path);
-}
-
 void DeleteWorkCopies() {
-    for (const char* index : kIndexes) KillIfThere(WorkCopy(index));
+    for (const char* index : kIndexes) KillIfExists(WorkCopy(index));
 }
 
 // Replaces a live file by its staged one: delete, move, and ask for it.
 bool Place(const QString& staged, const QString& live) {
-    if (FileExists(live) && !Kill(live)) return false;
+    if (!KillIfExists(live)) return false;
     if (!MoveFile(staged, live)) return false;
     return FileExists(live);
 }
@@ -72,7 +68,7 @@ bool StageRecordAndIndexes(const QString& id, const ContactForm& form, const Sav
 bool StageIndexFiles() {
     for (const char* index : kIndexes) {
         const QString work = WorkCopy(index);
-        bool ok = (!FileExists(work) || Kill(work)) && CopyFile(LiveIndex(index), work) &&
+        bool ok = KillIfExists(work) && CopyFile(LiveIndex(index), work) &&
                   FileExists(work);
         if (!ok) {
             DeleteWorkCopies();
@@ -93,13 +89,13 @@ bool CommitStagedFiles(const QString& contactId, const ContactRecord* recordFrom
     if (ok) ok = Place(staged, RecordPath(contactId));
     if (ok) return true;
     DeleteWorkCopies();
-    KillIfThere(staged);
+    KillIfExists(staged);
     return false;
 }
 
 void DiscardStagedFiles(const QString& contactId) {
     DeleteWorkCopies();
-    KillIfThere(StagedRecordPath(contactId));
+    KillIfExists(StagedRecordPath(contactId));
 }
 
 bool SaveNewContact(const ContactForm& form, const SaveProgress& progress, QString* contactId) {
