@@ -99,7 +99,6 @@ struct Place {
     int header = -1;        // line of the section header
     int key = -1;           // first line of the key within that section
     int lastNonEmpty = -1;  // last line with text within that section
-    QString value;          // the key's value as it stands
 };
 
 Place Find(const QByteArray& bytes, const std::vector<Line>& lines,
@@ -120,10 +119,7 @@ Place Find(const QByteArray& bytes, const std::vector<Line>& lines,
         }
         if (!inSection) continue;
         if (!Trimmed(content).isEmpty()) place.lastNonEmpty = i;
-        if (p.kind == Kind::Key && place.key < 0 && SameName(p.name, key)) {
-            place.key = i;
-            place.value = p.value;
-        }
+        if (p.kind == Kind::Key && place.key < 0 && SameName(p.name, key)) place.key = i;
     }
     return place;
 }
@@ -149,10 +145,10 @@ int GetPrivateProfileString(const QString& section, const QString& key,
     QString value = defaultValue;
     while (!value.isEmpty() && IsBlank(value.back())) value.chop(1);
 
-    QByteArray bytes;
-    if (ReadWholeFile(file, bytes)) {
-        const Place place = Find(bytes, SplitLines(bytes), Trimmed(section), Trimmed(key));
-        if (place.key >= 0) value = DropQuotes(place.value);
+    ProfileValues values;
+    if (ReadProfileSection(section, file, values)) {
+        auto found = values.constFind(Trimmed(key).toLower());
+        if (found != values.constEnd()) value = *found;
     }
 
     if (size <= 0) {
