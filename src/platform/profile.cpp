@@ -67,8 +67,7 @@ enum class Kind { Other, Section, Key };
 
 struct Parsed {
     Kind kind = Kind::Other;
-    QString name;   // section name or key
-    QString value;  // key lines only, trimmed, quotes still on
+    QString name;  // section name or key
 };
 
 Parsed ParseLine(const QByteArray& content) {
@@ -86,7 +85,6 @@ Parsed ParseLine(const QByteArray& content) {
     if (eq >= 0) {
         p.kind = Kind::Key;
         p.name = Trimmed(text.left(eq));
-        p.value = Trimmed(text.mid(eq + 1));
     }
     return p;
 }
