@@ -82,22 +82,24 @@ QString DecodeNextLine(const QString& text) {
     return result.replace(QStringLiteral("<NextLine>"), QStringLiteral("\r\n"), Qt::CaseInsensitive);
 }
 
+// The same lines as from a buffer, with every typed field encoded.
 QByteArray RecordTextFromForm(const QString& contactId, const ContactForm& f) {
-    return Lines({{"infoid", contactId},
-                  {"infoname", EncodeFieldText(f.name)},
-                  {"country", QString::number(f.countryIndex)},
-                  {"category", f.categoryId},
-                  {"tel1", EncodeFieldText(f.tel1)},
-                  {"ext1", EncodeFieldText(f.ext1)},
-                  {"tel2", EncodeFieldText(f.tel2)},
-                  {"ext2", EncodeFieldText(f.ext2)},
-                  {"mobile", EncodeFieldText(f.mobile)},
-                  {"fax", EncodeFieldText(f.fax)},
-                  {"company", EncodeFieldText(f.company)},
-                  {"designation", EncodeFieldText(f.designation)},
-                  {"addr", EncodeFieldText(f.addr)},
-                  {"notes", EncodeFieldText(f.notes)},
-                  {"mail", EncodeFieldText(f.mail)}});
+    ContactRecord r;
+    r.infoname = EncodeFieldText(f.name);
+    r.country = qint16(f.countryIndex);
+    r.category = f.categoryId;
+    r.tel1 = EncodeFieldText(f.tel1);
+    r.ext1 = EncodeFieldText(f.ext1);
+    r.tel2 = EncodeFieldText(f.tel2);
+    r.ext2 = EncodeFieldText(f.ext2);
+    r.mobile = EncodeFieldText(f.mobile);
+    r.fax = EncodeFieldText(f.fax);
+    r.company = EncodeFieldText(f.company);
+    r.designation = EncodeFieldText(f.designation);
+    r.addr = EncodeFieldText(f.addr);
+    r.notes = EncodeFieldText(f.notes);
+    r.mail = EncodeFieldText(f.mail);
+    return RecordTextFromBuffer(contactId, r);
 }
 
 QByteArray RecordTextFromBuffer(const QString& contactId, const ContactRecord& r) {
