@@ -88,8 +88,7 @@ bool CommitStagedFiles(const QString& contactId, const ContactRecord* recordFrom
         ok = WriteRecordFile(staged, RecordTextFromBuffer(contactId, *recordFromBuffer));
     if (ok) ok = Place(staged, RecordPath(contactId));
     if (ok) return true;
-    DeleteWorkCopies();
-    KillIfExists(staged);
+    DiscardStagedFiles(contactId);
     return false;
 }
 
