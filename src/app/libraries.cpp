@@ -75,3 +75,13 @@ QString GetLanguageString(int id) { return Lookup(g_language, id); }
 QString GetEditionString(int id) { return Lookup(g_edition, id); }
 QString GetCountryString(int id) { return Lookup(g_country, id); }
 QString GetPhoneCodeString(int id) { return Lookup(g_phoneCode, id); }
+
+QStringList CountryNames() {
+    QStringList names;
+    for (int number = 100; number <= 999; ++number) {
+        const QString country = GetCountryString(number);
+        if (country.isEmpty()) break;
+        names << country;
+    }
+    return names;
+}

@@ -3,6 +3,7 @@
 // copied to the staging area first and the copy is what is loaded, so that
 // a busy or slow drive does not slow down string look-up.
 #include <QString>
+#include <QStringList>
 
 void LoadLanguageLibrary();
 void LoadEditionLibrary();
@@ -21,6 +22,10 @@ QString GetLanguageString(int id);
 QString GetEditionString(int id);
 QString GetCountryString(int id);
 QString GetPhoneCodeString(int id);
+
+// The countries in string order, from number 100 to the first empty one (999
+// at the most): a country's list index is its number minus 100.
+QStringList CountryNames();
 
 // Working copies in the staging area.
 QString LanguageLibraryCopy();

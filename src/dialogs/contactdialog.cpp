@@ -190,11 +190,7 @@ void ContactDialog::FillCategoryCombo() {
 
 void ContactDialog::FillCountryCombo() {
     cbCountry->clear();
-    for (int number = 100; number <= 999; ++number) {
-        const QString country = GetCountryString(number);
-        if (country.isEmpty()) break;
-        cbCountry->addItemText(country);
-    }
+    for (const QString& country : CountryNames()) cbCountry->addItemText(country);
     if (cbCountry->count() > 0) cbCountry->setCurrentIndex(0);
 }
 

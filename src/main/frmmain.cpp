@@ -134,11 +134,7 @@ void FrmMain::FillCountryFilter() {
     // Filling raises no click and leaves no item chosen: the click comes
     // when the load sets the stored index.
     const QSignalBlocker quiet(cmbCountry);
-    for (int number = 100; number <= 999; ++number) {
-        const QString country = GetCountryString(number);
-        if (country.isEmpty()) break;
-        cmbCountry->addItem(country);
-    }
+    cmbCountry->addItems(CountryNames());
     cmbCountry->setCurrentIndex(-1);
 }
 

@@ -27,11 +27,4 @@ void UnloadAllLibraries() {
     UnloadCountryLibrary();
 }
 
-int CountryIndex(const QString& name) {
-    for (int number = 100; number <= 999; ++number) {
-        const QString text = GetCountryString(number);
-        if (text.isEmpty()) break;
-        if (text == name) return number - 100;
-    }
-    return -1;
-}
+int CountryIndex(const QString& name) { return int(CountryNames().indexOf(name)); }
