@@ -17,12 +17,12 @@
 #include <string>
 #include <unordered_map>
 #include <vector>
-#include "main/frmmain.h"
-#include "platform/appfolder.h"
-#include "platform/codepage.h"
-#include "platform/tempfolder.h"
-#include "store/contactrows.h"
-#include "store/store.h"
+#include "main/forms/frmmain.h"
+#include "platform/core/appfolder.h"
+#include "platform/core/codepage.h"
+#include "platform/core/tempfolder.h"
+#include "main/core/contactrows.h"
+#include "store/core/store.h"
 
 using Clock = std::chrono::steady_clock;
 

@@ -8,10 +8,10 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include "app/inifile.h"
-#include "platform/appfolder.h"
-#include "platform/tempfolder.h"
-#include "store/store.h"
+#include "app/core/inifile.h"
+#include "platform/core/appfolder.h"
+#include "platform/core/tempfolder.h"
+#include "store/core/store.h"
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;

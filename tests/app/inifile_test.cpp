@@ -4,10 +4,11 @@
 #include <QDir>
 #include <QFile>
 #include <sys/stat.h>
-#include "app/inifile.h"
-#include "platform/fileops.h"
-#include "platform/profile.h"
-#include "platform/tempfolder.h"
+#include "app/core/inifile.h"
+#include "platform/core/numbers.h"
+#include "platform/core/fileops.h"
+#include "platform/core/profile.h"
+#include "platform/core/tempfolder.h"
 #include "support/printers.h"
 #include "support/scratch.h"
 

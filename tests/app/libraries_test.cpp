@@ -2,10 +2,10 @@
 // number, placeholders, and the content the program ships.
 #include <gtest/gtest.h>
 
-#include "app/globals.h"
-#include "app/libraries.h"
-#include "app/placeholders.h"
-#include "platform/tempfolder.h"
+#include "app/core/globals.h"
+#include "app/core/libraries.h"
+#include "app/core/placeholders.h"
+#include "platform/core/tempfolder.h"
 #include "support/libraryfixture.h"
 #include "support/printers.h"
 #include "support/scratch.h"

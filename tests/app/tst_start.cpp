@@ -6,16 +6,16 @@
 #include <QLabel>
 #include <QDir>
 #include <QTest>
-#include "app/frmprogress.h"
-#include "app/general.h"
-#include "app/libraries.h"
-#include "app/globals.h"
-#include "app/inifile.h"
-#include "main/frmmain.h"
-#include "platform/instance.h"
-#include "platform/pause.h"
-#include "platform/profile.h"
-#include "platform/tempfolder.h"
+#include "app/forms/frmprogress.h"
+#include "app/forms/general.h"
+#include "app/core/libraries.h"
+#include "app/core/globals.h"
+#include "app/core/inifile.h"
+#include "main/forms/frmmain.h"
+#include "platform/core/instance.h"
+#include "platform/core/pause.h"
+#include "platform/core/profile.h"
+#include "platform/core/tempfolder.h"
 #include "support/libraryfixture.h"
 #include "support/msgboxscript.h"
 #include "support/scratch.h"
@@ -175,7 +175,7 @@ private slots:
         LoadAllLibraries(store);
         OwnerName = "Ingrid";
         frmprogress splash;
-        splash.formLoad();
+        splash.FormLoad();
         QCOMPARE(splash.windowTitle(), GetLanguageString(308));
         auto* caption = splash.findChild<QLabel*>("lbcaption");
         QVERIFY(caption);

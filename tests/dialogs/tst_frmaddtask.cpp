@@ -3,10 +3,10 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
-#include "app/captionrule.h"
+#include "app/forms/captionrule.h"
 #include "dialogfixture.h"
-#include "dialogs/frmaddtask.h"
-#include "dialogs/itemcombo.h"
+#include "dialogs/forms/frmaddtask.h"
+#include "dialogs/forms/itemcombo.h"
 
 class TestFrmAddTask : public QObject {
     Q_OBJECT
@@ -89,7 +89,7 @@ void TestFrmAddTask::refusalsAndFailedSave() {
         ExpectModal([](Form*) {});
         ShowModal(&dlg);
         QCOMPARE(PendingModalScripts(), 1);  // it never showed
-        QVERIFY(dlg.isUnloaded());
+        QVERIFY(dlg.IsUnloaded());
         QCOMPARE(Boxes(s.boxes),
                  QStringList(categories.isEmpty()
                                  ? "Tandry|48|Ada, there is no category yet. Please add a category first."
@@ -141,7 +141,7 @@ void TestFrmAddTask::captionsAndFonts() {
     LanguageId = language;  // the libraries loaded stay those of 0409
     CharsetId = "134";
     frmaddtask dlg;
-    dlg.formLoad();
+    dlg.FormLoad();
     QCOMPARE(dlg.windowTitle(), QString("New Contact"));
     QStringList captions;
     for (const char* name : {"lbcountry", "lbcategory", "lbinfoname", "lbtel1", "lbExt1", "lbtel2",

@@ -2,11 +2,11 @@
 // its save byte for byte, the e-mail button and the charset exception.
 #include <QLabel>
 #include <QPushButton>
-#include "app/captionrule.h"
+#include "app/forms/captionrule.h"
 #include "dialogfixture.h"
-#include "dialogs/frmedittask.h"
-#include "dialogs/itemcombo.h"
-#include "platform/shell.h"
+#include "dialogs/forms/frmedittask.h"
+#include "dialogs/forms/itemcombo.h"
+#include "platform/forms/shell.h"
 
 namespace {
 // Two contacts of Norway in "Main"; the second holds line breaks in its
@@ -161,7 +161,7 @@ void TestFrmEditTask::charsetExceptionAndFonts() {
         LanguageId = language;
         CharsetId = "134";
         frmedittask dlg;
-        dlg.formLoad();
+        dlg.FormLoad();
         const int points = LanguageId == "0804" ? 9 : 8;
         const QList<QLabel*> labels = dlg.findChildren<QLabel*>();
         QCOMPARE(labels.size(), 14);

@@ -2,11 +2,11 @@
 // entries the scan lists, what the code box shows, and its captions.
 #include <QLabel>
 #include <QPushButton>
-#include "app/captionrule.h"
+#include "app/forms/captionrule.h"
 #include "dialogfixture.h"
-#include "dialogs/frmphone.h"
-#include "dialogs/itemcombo.h"
-#include "platform/pointer.h"
+#include "dialogs/forms/frmphone.h"
+#include "dialogs/forms/itemcombo.h"
+#include "platform/forms/pointer.h"
 
 namespace {
 const QString kLongName = QString(99, u'L') + "Z-beyond-the-hundredth";
@@ -86,7 +86,7 @@ void TestFrmPhone::captionsAndFonts() {
     LanguageId = "0804";
     CharsetId = "134";
     frmphone dlg;
-    dlg.formLoad();
+    dlg.FormLoad();
     QCOMPARE(QStringList({dlg.windowTitle(), Control<QLabel>(&dlg, "lbcountry")->text(),
                           Control<QLabel>(&dlg, "lbcode")->text(),
                           Control<QPushButton>(&dlg, "cmdClose")->text()}),

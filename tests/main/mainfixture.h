@@ -11,16 +11,16 @@
 #include <QTest>
 #include <QTreeWidget>
 #include <memory>
-#include "app/globals.h"
-#include "app/inifile.h"
-#include "app/libraries.h"
-#include "main/frmmain.h"
-#include "main/popup.h"
-#include "platform/modal.h"
-#include "platform/pause.h"
-#include "platform/shell.h"
-#include "store/genid.h"
-#include "store/record.h"
+#include "app/core/globals.h"
+#include "app/core/inifile.h"
+#include "app/core/libraries.h"
+#include "main/forms/frmmain.h"
+#include "platform/forms/popup.h"
+#include "platform/forms/modal.h"
+#include "platform/core/pause.h"
+#include "platform/forms/shell.h"
+#include "store/core/genid.h"
+#include "store/core/record.h"
 #include "support/libraryfixture.h"
 #include "support/msgboxscript.h"
 #include "support/scratch.h"
@@ -63,7 +63,7 @@ struct MainStore {
 
     FrmMain& open() {
         window = std::make_unique<FrmMain>();
-        window->formLoad();
+        window->FormLoad();
         window->show();
         if (!QTest::qWaitForWindowExposed(window.get())) qWarning("window not exposed");
         return *window;

@@ -2,8 +2,8 @@
 // country from the live cat.dat, node texts and order, the clicks and what
 // they leave in the list.
 #include "mainfixture.h"
-#include "main/treeitems.h"
-#include "store/failure.h"
+#include "main/forms/treeitems.h"
+#include "store/core/failure.h"
 
 namespace {
 // Zoo and the last Norway row of Work stand on lines without CR LF.

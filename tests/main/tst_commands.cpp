@@ -7,10 +7,10 @@
 #include <QScreen>
 #include <QToolBar>
 #include <QToolButton>
-#include "main/twips.h"
-#include "main/vsplitter.h"
+#include "main/forms/twips.h"
+#include "main/forms/vsplitter.h"
 #include "mainfixture.h"
-#include "platform/tempfolder.h"
+#include "platform/core/tempfolder.h"
 
 namespace {
 const char* const kCategories = "\"00001\",\"Main\"\r\n\"00002\",\"Work\"\r\n\"00003\",\"family\"\r\n";
@@ -82,9 +82,9 @@ void TestCommands::menusAndPopupsWithEnglishCaptions() {
     for (QAction* a : w.menuBar()->actions()) bar << a->text();
     QCOMPARE(bar, QStringList({"&File", "&Contact", "&Select", "S&ynchronize", "Category", "S&kin", "&Help"}));
     QStringList rightClick, treeRightClick, mouseUp;
-    for (QAction* a : w.mnuRightClick->actions()) rightClick << a->objectName();
-    for (QAction* a : w.mnuTreeViewRightClick->actions()) treeRightClick << a->objectName();
-    for (QAction* a : w.mnuTreeViewMouseUp->actions()) mouseUp << a->objectName();
+    for (QAction* a : w.Menu("mnuRightClick")->actions()) rightClick << a->objectName();
+    for (QAction* a : w.Menu("mnuTreeViewRightClick")->actions()) treeRightClick << a->objectName();
+    for (QAction* a : w.Menu("mnuTreeViewMouseUp")->actions()) mouseUp << a->objectName();
     QCOMPARE(rightClick, QStringList({"mnuDelete_p", "mnuDuplicate_c", "mnuEdit_p", "mnuPrint_p"}));
     QCOMPARE(treeRightClick, QStringList({"mnuDeleteCategory", "mnuDuplicateCategory",
                                           "mnuEmptyCategory", "mnuRenameCategory"}));

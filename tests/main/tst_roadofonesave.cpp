@@ -9,10 +9,10 @@
 #include <QPushButton>
 #include <QToolBar>
 #include <QToolButton>
-#include "dialogs/frmaddtask.h"
-#include "dialogs/frmedittask.h"
-#include "dialogs/contactdialog.h"
-#include "dialogs/itemcombo.h"
+#include "dialogs/forms/frmaddtask.h"
+#include "dialogs/forms/frmedittask.h"
+#include "dialogs/forms/contactdialog.h"
+#include "dialogs/forms/itemcombo.h"
 #include "mainfixture.h"
 
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QString>
-#include "platform/codepage.h"
+#include "platform/core/codepage.h"
 
 namespace {
 QString U(const char* utf8) { return QString::fromUtf8(utf8); }

@@ -6,8 +6,8 @@
 #include <QFile>
 #include <sys/stat.h>
 #include <unistd.h>
-#include "platform/fileops.h"
-#include "platform/tempfolder.h"
+#include "platform/core/fileops.h"
+#include "platform/core/tempfolder.h"
 #include "support/printers.h"
 #include "support/scratch.h"
 

@@ -5,9 +5,9 @@
 #include <QString>
 #include <sys/utsname.h>
 #include <unistd.h>
-#include "platform/drive.h"
-#include "platform/instance.h"
-#include "platform/sysinfo.h"
+#include "platform/core/drive.h"
+#include "platform/core/instance.h"
+#include "platform/core/sysinfo.h"
 #include "support/scratch.h"
 
 TEST(Instance, ASecondClaimIsRefusedWhileTheFirstIsHeld) {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QString>
-#include "platform/profile.h"
+#include "platform/core/profile.h"
 #include "support/scratch.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QString>
-#include "platform/codepage.h"
-#include "platform/stringlib.h"
+#include "platform/core/codepage.h"
+#include "platform/core/stringlib.h"
 #include "support/scratch.h"
 
 namespace {

@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include "platform/tempfolder.h"
-#include "store/categorycounts.h"
-#include "store/contactrows.h"
-#include "store/failure.h"
-#include "store/record.h"
+#include "platform/core/tempfolder.h"
+#include "main/core/categorycounts.h"
+#include "main/core/contactrows.h"
+#include "store/core/failure.h"
+#include "store/core/record.h"
 #include "support/printers.h"
 #include "support/scratch.h"
 

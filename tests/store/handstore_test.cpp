@@ -5,10 +5,10 @@
 #include <QDir>
 #include <QFile>
 #include <sys/stat.h>
-#include "platform/fileops.h"
-#include "platform/tempfolder.h"
-#include "store/failure.h"
-#include "store/store.h"
+#include "platform/core/fileops.h"
+#include "platform/core/tempfolder.h"
+#include "store/core/failure.h"
+#include "store/core/store.h"
 #include "support/printers.h"
 #include "support/scratch.h"
 

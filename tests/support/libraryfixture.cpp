@@ -1,8 +1,8 @@
 #include "support/libraryfixture.h"
 
 #include <QFile>
-#include "app/globals.h"
-#include "app/libraries.h"
+#include "app/core/globals.h"
+#include "app/core/libraries.h"
 
 void InstallLibraries(const ScratchStore& store) {
     for (const char* name : {"langfile0409.dll", "edition0409.dll", "country.dll", "phonecode.dll"})

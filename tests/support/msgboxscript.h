@@ -3,7 +3,7 @@
 // answered from the script (or with OK / Yes when the script is empty).
 #include <QList>
 #include <deque>
-#include "platform/msgbox.h"
+#include "platform/core/msgbox.h"
 
 class MsgBoxScript {
 public:

@@ -2,10 +2,10 @@
 
 #include <QDir>
 #include <QFile>
-#include "platform/appfolder.h"
-#include "platform/codepage.h"
-#include "platform/fileops.h"
-#include "platform/tempfolder.h"
+#include "platform/core/appfolder.h"
+#include "platform/core/codepage.h"
+#include "platform/core/fileops.h"
+#include "platform/core/tempfolder.h"
 
 ScratchStore::ScratchStore() {
     QDir().mkpath(app());

@@ -1,0 +1,8 @@
+#include "app/core/globals.h"
+
+QString LanguageId;
+QString CharsetId;
+QString OwnerName;
+bool SkinEnabled = false;
+
+int LabelFontSize() { return LanguageId == "0804" || LanguageId == "0404" ? 9 : 8; }

@@ -1,0 +1,37 @@
+#include "app/forms/frmprogress.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+#include "app/forms/captionrule.h"
+#include "app/core/globals.h"
+#include "app/core/inifile.h"
+#include "app/core/libraries.h"
+#include "app/core/placeholders.h"
+#include "platform/core/appfolder.h"
+#include "platform/core/sysinfo.h"
+
+frmprogress::frmprogress(QWidget* parent) : Form(parent) {
+    setObjectName("frmprogress");
+    lbcaption = new QLabel(this);
+    lbcaption->setObjectName("lbcaption");
+    lbcaption->setAlignment(Qt::AlignCenter);
+    lbcaption->setWordWrap(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(lbcaption);
+    setFixedSize(360, 110);
+
+    // Skins belong to the systems of major version 5 only.
+    OsVersionInfo os;
+    if (GetOsVersion(os) && (os.code == -1 || os.code == 0)) {
+        QString skinFile = GetIniValue("Skin", "SkinFile", "", AppFile("Setting.ini"));
+        if (!skinFile.isEmpty()) skinPath_ = AppPath() + "/" + skinFile;
+        SkinEnabled = true;
+    }
+}
+
+void frmprogress::FormLoad() {
+    setWindowTitle(GetLanguageString(308));
+    lbcaption->setText(WithOwnerName(GetLanguageString(536)));
+    SetFontSize(lbcaption, LabelFontSize());
+    SetFontCharset(lbcaption);
+}

@@ -1,0 +1,17 @@
+#pragma once
+// The splash form shown while the libraries are copied at start.
+#include <QString>
+#include "platform/forms/modal.h"
+
+class QLabel;
+
+class frmprogress : public Form {
+    Q_OBJECT
+public:
+    explicit frmprogress(QWidget* parent = nullptr);
+    void FormLoad() override;
+    QString skinPath() const { return skinPath_; }
+private:
+    QLabel* lbcaption;
+    QString skinPath_;
+};

@@ -1,8 +1,0 @@
-#include "app/globals.h"
-
-QString LanguageId;
-QString CharsetId;
-QString OwnerName;
-bool SkinEnabled = false;
-
-int LabelFontSize() { return LanguageId == "0804" || LanguageId == "0404" ? 9 : 8; }

@@ -1,0 +1,122 @@
+// The category tree and the country filter.
+#include <QApplication>
+#include <QComboBox>
+#include <QIcon>
+#include <QStyle>
+#include <QTreeWidget>
+#include <algorithm>
+#include "app/core/libraries.h"
+#include "main/forms/frmmain.h"
+#include "platform/forms/popup.h"
+#include "main/forms/treeitems.h"
+#include "main/core/categorycounts.h"
+#include "store/core/failure.h"
+#include "store/core/text.h"
+
+namespace {
+// ImageList1: 1 a closed category, 2 an open (selected) category, 3 the root.
+QIcon TreeImage(int index) {
+    QStyle* style = QApplication::style();
+    switch (index) {
+    case 1: return style->standardIcon(QStyle::SP_DirClosedIcon);
+    case 2: return style->standardIcon(QStyle::SP_DirOpenIcon);
+    default: return style->standardIcon(QStyle::SP_DirHomeIcon);
+    }
+}
+
+// A node shows its image, and its selected image while it is selected.
+QTreeWidgetItem* MakeNode(const QString& key, const QString& text, int image, int selectedImage) {
+    auto* node = new QTreeWidgetItem(QStringList{text});
+    node->setData(0, kNodeKeyRole, key);
+    node->setData(0, kImageRole, image);
+    node->setData(0, kSelectedImageRole, selectedImage);
+    QIcon icon;
+    icon.addPixmap(TreeImage(image).pixmap(16, 16), QIcon::Normal);
+    icon.addPixmap(TreeImage(selectedImage).pixmap(16, 16), QIcon::Selected);
+    node->setIcon(0, icon);
+    return node;
+}
+
+// The first 200 characters of a drop-down text, trimmed.
+QString CountryFilterText(const QString& text) { return TrimSpaces(text.left(200)); }
+}  // namespace
+
+QString NodeKey(const QTreeWidgetItem* node) {
+    return node ? node->data(0, kNodeKeyRole).toString() : QString();
+}
+
+QTreeWidgetItem* SelectedNode(const QTreeWidget* tree) {
+    const QList<QTreeWidgetItem*> selected = tree->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.first();
+}
+
+int NodeCount(const QTreeWidget* tree) {
+    int count = 0;
+    for (int i = 0; i < tree->topLevelItemCount(); ++i)
+        count += 1 + tree->topLevelItem(i)->childCount();
+    return count;
+}
+
+// Builds the tree on an empty tree. The counts come from the live cat.dat,
+// for the country chosen in the filter. A failure passes to the caller, with
+// the nodes made before it in the tree.
+void FrmMain::LoadCategory() {
+    const QString filterCountry = CountryFilterText(cmbCountry->itemText(cmbCountry->currentIndex()));
+
+    QTreeWidgetItem* root = MakeNode(QStringLiteral("noderoot"), GetLanguageString(128), 3, 3);
+    TreeView1->addTopLevelItem(root);
+    root->setExpanded(true);
+    TreeView1->setCurrentItem(root);
+    root->setSelected(true);
+
+    QList<CategoryNode> nodes;
+    const bool ok = LiveCategoryNodes(filterCountry, nodes);
+    // The root's children stand in the order of their whole texts.
+    std::stable_sort(nodes.begin(), nodes.end(), [](const CategoryNode& a, const CategoryNode& b) {
+        return TreeTextLess(a.text, b.text);
+    });
+    for (const CategoryNode& node : nodes) root->addChild(MakeNode(node.key, node.text, 1, 2));
+    if (!ok) throw RoutineFailure("LoadCategory");
+}
+
+// The same after every change of the store: all nodes go first. Neither
+// touches strNodeKey, strCountry or the list, so the root ends selected while
+// the list goes on showing the category last clicked.
+void FrmMain::RefreshCategory() {
+    TreeView1->clear();
+    LoadCategory();
+}
+
+void FrmMain::TreeView1_NodeClick() {
+    QTreeWidgetItem* node = SelectedNode(TreeView1);
+    if (!node) throw RoutineFailure("no selected node");
+    strNodeKey = NodeKey(node);
+    strCountry = CountryFilterText(cmbCountry->currentText());
+    RefreshListView1(strCountry, strNodeKey);
+    ListView1->setFocus();
+}
+
+// It is the selected node that counts, not the node under the pointer: the
+// right button doesn't select.
+void FrmMain::TreeView1_MouseUp() {
+    TreeView1_NodeClick();
+    QTreeWidgetItem* node = SelectedNode(TreeView1);
+    if (node->parent() == nullptr) return;  // the root
+    Tag = NodeKey(node).mid(2);
+    PopupMenu(Menu("mnuTreeViewRightClick"));
+}
+
+void FrmMain::cmbCountry_Click() {
+    ListView1->clear();
+    // The first click is the one the load raises when it sets the stored
+    // index; the tree is built right behind it.
+    if (intCountryClick == 1) {
+        intCountryClick = 2;
+        return;
+    }
+    RefreshCategory();
+    if (intCountryClick == 32767) throw RoutineFailure("overflow of intCountryClick");
+    ++intCountryClick;
+}
+
+QString FrmMain::CategoryNameFromNode(const QString& text) { return CategoryNameFromNodeText(text); }

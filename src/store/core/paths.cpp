@@ -1,0 +1,14 @@
+#include "store/core/paths.h"
+
+#include "platform/core/appfolder.h"
+#include "platform/core/tempfolder.h"
+
+QString CategoryFile() { return AppFile("category.dat"); }
+QString LiveIndex(const QString& index) { return AppFile(index + ".dat"); }
+QString WorkCopy(const QString& index) { return TempFile("addr_" + index + ".tmp"); }
+QString StagedIndex(const QString& index) { return TempFile("addr_" + index + ".dat"); }
+QString DataFolder() { return AppFile("data"); }
+QString RecordPath(const ContactId& contactId) { return DataFolder() + "/addr" + contactId + ".b64"; }
+QString StagedRecordPath(const ContactId& contactId) { return TempFile("addr" + contactId + ".b64"); }
+QString CatSnapshot() { return TempFile("addr_cat.dat"); }
+QString CategorySnapshot() { return TempFile("addr_category.dat"); }

@@ -1,0 +1,14 @@
+#pragma once
+// Where each file of the store lies.
+#include "store/core/ids.h"
+#include <QString>
+
+QString CategoryFile();                       // <app>/category.dat
+QString LiveIndex(const QString& index);      // <app>/<index>.dat, index: cat, cty, name
+QString WorkCopy(const QString& index);       // staging: addr_<index>.tmp
+QString StagedIndex(const QString& index);    // staging: addr_<index>.dat
+QString DataFolder();                         // <app>/data
+QString RecordPath(const ContactId& contactId);        // <app>/data/addr<id>.b64
+QString StagedRecordPath(const ContactId& contactId);  // staging: addr<id>.b64
+QString CatSnapshot();                        // staging: addr_cat.dat
+QString CategorySnapshot();                   // staging: addr_category.dat

@@ -1,0 +1,119 @@
+#include "store/core/record.h"
+
+#include "platform/core/numbers.h"
+#include "platform/core/codepage.h"
+#include "platform/core/fileops.h"
+#include "platform/core/profile.h"
+#include "store/core/paths.h"
+#include "store/core/text.h"
+
+ContactRecord ContactBuffer;
+bool ContactEditFlag = false;
+
+void ClearContactBuffer() { ContactBuffer = ContactRecord(); }
+
+namespace {
+// A record is read in one pass of its file; each key is then what the
+// profile call would give for it, or empty when missing.
+class RecordKeys {
+public:
+    explicit RecordKeys(const QString& path) { ReadProfileSection("Setting", path, values_); }
+    QString operator()(const char* key) const { return values_.value(QString::fromLatin1(key)); }
+private:
+    ProfileValues values_;
+};
+
+// Reads the keys in the file's order; the country's conversion may fail,
+// and then the rest of the buffer stays as it was.
+bool ReadKeys(const ContactId& contactId, bool idFromFile) {
+    const QString path = RecordPath(contactId);
+    if (!FileExists(path)) return false;
+    const RecordKeys Key(path);
+    ContactRecord& b = ContactBuffer;
+    b.infoid = idFromFile ? Key("infoid") : contactId;
+    b.infoname = Key("infoname");
+    b.category = Key("category");
+    if (!TextToInt16(Key("country"), b.country)) return false;
+    b.tel1 = Key("tel1");
+    b.ext1 = Key("ext1");
+    b.tel2 = Key("tel2");
+    b.ext2 = Key("ext2");
+    b.mobile = Key("mobile");
+    b.fax = Key("fax");
+    b.company = Key("company");
+    b.designation = Key("designation");
+    b.addr = Key("addr");
+    b.notes = Key("notes");
+    b.mail = Key("mail");
+    return true;
+}
+
+QByteArray Lines(const QList<std::pair<const char*, QString>>& pairs) {
+    QString text = QStringLiteral("[Setting]\r\n");
+    for (const auto& [key, value] : pairs) text += QString::fromLatin1(key) + "=" + value + "\r\n";
+    return ToAnsi(text);
+}
+}  // namespace
+
+bool ReadContact(const ContactId& contactId) { return ReadKeys(contactId, false); }
+bool ReadContactWithId(const ContactId& contactId) { return ReadKeys(contactId, true); }
+
+bool ReadContactSummary(const ContactId& contactId) {
+    const QString path = RecordPath(contactId);
+    if (!FileExists(path)) return false;
+    const RecordKeys Key(path);
+    ContactBuffer.infoname = Key("infoname");
+    ContactBuffer.mail = Key("mail");
+    ContactBuffer.category = Key("category");
+    ContactBuffer.company = Key("company");
+    ContactBuffer.designation = Key("designation");
+    return true;
+}
+
+QString EncodeFieldText(const QString& text) {
+    QString result = TrimSpaces(text);
+    result.replace(QStringLiteral("\r\n"), QStringLiteral("<NextLine>"));
+    result.replace(u'"', QStringLiteral("\"\""));
+    return result;
+}
+
+QString DecodeNextLine(const QString& text) {
+    QString result = text;
+    return result.replace(QStringLiteral("<NextLine>"), QStringLiteral("\r\n"), Qt::CaseInsensitive);
+}
+
+// The same lines as from a buffer, with every typed field encoded.
+QByteArray RecordTextFromForm(const ContactId& contactId, const ContactForm& f) {
+    ContactRecord r;
+    r.infoname = EncodeFieldText(f.name);
+    r.country = qint16(f.countryIndex);
+    r.category = f.categoryId;
+    r.tel1 = EncodeFieldText(f.tel1);
+    r.ext1 = EncodeFieldText(f.ext1);
+    r.tel2 = EncodeFieldText(f.tel2);
+    r.ext2 = EncodeFieldText(f.ext2);
+    r.mobile = EncodeFieldText(f.mobile);
+    r.fax = EncodeFieldText(f.fax);
+    r.company = EncodeFieldText(f.company);
+    r.designation = EncodeFieldText(f.designation);
+    r.addr = EncodeFieldText(f.addr);
+    r.notes = EncodeFieldText(f.notes);
+    r.mail = EncodeFieldText(f.mail);
+    return RecordTextFromBuffer(contactId, r);
+}
+
+QByteArray RecordTextFromBuffer(const ContactId& contactId, const ContactRecord& r) {
+    return Lines({{"infoid", contactId},        {"infoname", r.infoname},
+                  {"country", QString::number(r.country)},
+                  {"category", r.category},     {"tel1", r.tel1},
+                  {"ext1", r.ext1},             {"tel2", r.tel2},
+                  {"ext2", r.ext2},             {"mobile", r.mobile},
+                  {"fax", r.fax},               {"company", r.company},
+                  {"designation", r.designation}, {"addr", r.addr},
+                  {"notes", r.notes},           {"mail", r.mail}});
+}
+
+bool WriteRecordFile(const QString& path, const QByteArray& text) {
+    OutputFile file;
+    return file.openForOutput(path) && file.write(text) && file.close();
+}

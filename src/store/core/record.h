@@ -1,0 +1,43 @@
+#pragma once
+// A contact's record file, data/addr<id>.b64: "[Setting]" and one key=value
+// line per field, in a fixed order. Despite the name nothing in it is
+// base-64: it is plain text in the code page, read key by key.
+#include "store/core/ids.h"
+#include <QString>
+
+// The contact in hand, shared by the forms: the main window fills it before
+// a dialog opens and clears it after the dialog closes. Values stay as
+// stored, still encoded.
+struct ContactRecord {
+    QString infoid, infoname, category, tel1, ext1, tel2, ext2, mobile, fax, company,
+        designation, addr, notes, mail;
+    qint16 country = -1;
+};
+extern ContactRecord ContactBuffer;
+// Set by the three openers of the edit dialog; nothing sets it back.
+extern bool ContactEditFlag;
+
+// What the contact dialogs hold when Save is pressed, as typed.
+struct ContactForm {
+    QString name, tel1, ext1, tel2, ext2, mobile, fax, company, designation, addr, notes, mail;
+    int countryIndex = -1;   // list index of the country drop-down
+    QString countryText;     // text of the country drop-down
+    CategoryId categoryId;   // trimmed id of the selected category item
+};
+
+void ClearContactBuffer();
+bool ReadContact(const ContactId& contactId);          // infoid from the argument
+bool ReadContactWithId(const ContactId& contactId);    // infoid from the file
+bool ReadContactSummary(const ContactId& contactId);   // the list's five keys
+
+// Trim spaces, CR LF -> "<NextLine>", " -> "".
+QString EncodeFieldText(const QString& text);
+// "<NextLine>" -> CR LF, for the address and the notes only.
+QString DecodeNextLine(const QString& text);
+
+// The record lines for a save from the contact dialogs (fields encoded).
+QByteArray RecordTextFromForm(const ContactId& contactId, const ContactForm& form);
+// The record lines from a buffer, values written back as read.
+QByteArray RecordTextFromBuffer(const ContactId& contactId, const ContactRecord& record);
+// Opens the file for output, writes the lines, closes.
+bool WriteRecordFile(const QString& path, const QByteArray& text);

@@ -1,0 +1,21 @@
+#include "store/core/text.h"
+
+#include "store/core/failure.h"
+
+QString TrimSpaces(const QString& text) {
+    qsizetype start = 0, end = text.size();
+    while (start < end && text[start] == u' ') ++start;
+    while (end > start && text[end - 1] == u' ') --end;
+    return text.mid(start, end - start);
+}
+
+QString StripEnds(const QString& text) {
+    if (text.isEmpty()) return text;
+    if (text.size() == 1) throw RoutineFailure("StripEnds: one character");
+    return text.mid(1, text.size() - 2);
+}
+
+const QString& Element(const QStringList& parts, int i) {
+    if (i < 0 || i >= parts.size()) throw RoutineFailure("line with too few fields");
+    return parts[i];
+}

@@ -1,0 +1,15 @@
+#pragma once
+// Text helpers of the store.
+#include <QString>
+#include <QStringList>
+
+// Trims spaces only (not tabs or line breaks) at both ends.
+QString TrimSpaces(const QString& text);
+
+// Takes off the first and the last character, whatever they are. Empty
+// text stays empty; one character is a failure (RoutineFailure).
+QString StripEnds(const QString& text);
+
+// Element i of a split, or a failure when the split is shorter.
+const QString& Element(const QStringList& parts, int i);
+
