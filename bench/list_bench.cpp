@@ -17,11 +17,11 @@
 #include <string>
 #include <unordered_map>
 #include <vector>
+#include "main/core/contactrows.h"
 #include "main/forms/frmmain.h"
 #include "platform/core/appfolder.h"
 #include "platform/core/codepage.h"
 #include "platform/core/tempfolder.h"
-#include "main/core/contactrows.h"
 #include "store/core/store.h"
 
 using Clock = std::chrono::steady_clock;

@@ -1,51 +1,35 @@
 // Start and shut-down of the whole program, in process: the refusals in
 // their order, the first start in an empty folder, a second instance, and
 // the keys written when the main window closes.
-#include <QApplication>
-#include <QComboBox>
 #include <QLabel>
-#include <QDir>
-#include <QTest>
+#include <QScreen>
 #include "app/forms/frmprogress.h"
 #include "app/forms/general.h"
-#include "app/core/libraries.h"
-#include "app/core/globals.h"
-#include "app/core/inifile.h"
-#include "main/forms/frmmain.h"
+#include "main/forms/vsplitter.h"
 #include "platform/core/instance.h"
-#include "platform/core/pause.h"
-#include "platform/core/profile.h"
 #include "platform/core/tempfolder.h"
-#include "support/libraryfixture.h"
-#include "support/msgboxscript.h"
-#include "support/scratch.h"
+#include "support/formstore.h"
+
+namespace {
+const QStringList kLibraryCopies = {"addr_country.dll", "addr_phonecode.dll", "ma_edition_0409.dll", "ma_langfile0409.dll"};
+
+// The store's first-run files with one text of setting.ini replaced.
+void Setting(const ScratchStore& store, const QByteArray& from, const QByteArray& to) {
+    EnsureStoreFiles();
+    store.put("setting.ini", store.file("setting.ini").replace(from, to));
+}
+}  // namespace
 
 class StartTest : public QObject {
     Q_OBJECT
     int run_ = 0;
 
-    void claimAnew() {
+private slots:
+    void initTestCase() { SetSleepDisabledForTest(true); }
+    void init() {  // each start claims a name of its own
         ReleaseInstanceClaim();
         SetInstanceNameForTest(QString("tandry-start-test-%1-%2").arg(QCoreApplication::applicationPid()).arg(++run_));
     }
-
-    void expectRefusal(const MsgBoxScript& boxes, const char* message) {
-        QCOMPARE(boxes.count(), 1);
-        QCOMPARE(boxes.last().prompt, QString::fromLatin1(message));
-        QCOMPARE(boxes.last().title, QString("Error"));
-        QCOMPARE(boxes.last().icon, int(MsgCritical));
-        QCOMPARE(boxes.last().buttons, int(MsgOkOnly));
-    }
-
-    void setSetting(const ScratchStore& store, const QByteArray& from, const QByteArray& to) {
-        QByteArray text = store.read(store.appFile("setting.ini"));
-        text.replace(from, to);
-        store.write(store.appFile("setting.ini"), text);
-    }
-
-private slots:
-    void initTestCase() { SetSleepDisabledForTest(true); }
-    void init() { claimAnew(); }
 
     void firstStartInAnEmptyFolderRunsAndShutsDownCleanly() {
         ScratchStore store;
@@ -53,71 +37,46 @@ private slots:
         MsgBoxScript boxes;
         FrmMain* window = nullptr;
         QCOMPARE(Main(&window), StartResult::Started);
-        QVERIFY(window);
         QCOMPARE(boxes.count(), 0);  // the staging area could be written: no warning
-        QCOMPARE(window->windowTitle(), QString("Tandry"));
-        QCOMPARE(OwnerName, QString("User"));  // no OwnerInfo.ini on this drive
+        QCOMPARE(window->windowTitle() + "|" + OwnerName, QString("Tandry|User"));  // no OwnerInfo.ini on this drive
         QVERIFY(QDir(store.appFile("data")).exists());
-        QCOMPARE(store.read(store.appFile("category.dat")), QByteArray("\"00001\",\"Main\"\r\n"));
         QCOMPARE(window->cmbCountry->currentIndex(), 113);
-        QCOMPARE(store.tempFiles(), (QStringList{"addr_cat.dat", "addr_category.dat", "addr_country.dll",
-                                                 "addr_phonecode.dll", "ma_edition_0409.dll", "ma_langfile0409.dll"}));
-
+        QCOMPARE(store.tempFiles(), QStringList({"addr_cat.dat", "addr_category.dat"}) + kLibraryCopies);
         window->cmbCountry->setCurrentIndex(5);
         window->resize(700, 500);
-        window->close();
+        emit window->VSplitter->moved(200);
+        window->Entry("mnuFileExit")->trigger();
         QCoreApplication::processEvents();
         // Only the first [VSplitter] takes the position; ColWidth5 is never written.
-        const QByteArray setting = store.read(store.appFile("setting.ini"));
-        QVERIFY(setting.startsWith("[Setting]\r\nLanguage=0409\r\nCharset=0\r\nCountry=5\r\n"));
-        QVERIFY(setting.contains("[VSplitter]\r\nLeft=3190\r\n\r\n[VSplitter]\r\nLeft=4700\r\n"));
-        QVERIFY(setting.contains("ColWidth0=2070\r\n"));
-        QVERIFY(setting.contains("ColWidth4=15\r\n"));
-        QVERIFY(setting.contains("ColWidth5=0\r\n"));
-        QCOMPARE(GetIniValue("Size", "Width", "", SettingFile()), QString::number(700 * 15));
-        QCOMPARE(GetIniValue("Size", "Height", "", SettingFile()), QString::number(500 * 15));
+        const QByteArray setting = store.file("setting.ini");
+        for (QByteArray part : {"[Setting]\r\nLanguage=0409\r\nCharset=0\r\nCountry=5\r\n", "ColWidth0=2070\r\n",
+                                "ColWidth4=15\r\n", "ColWidth5=0\r\n"})
+            QVERIFY2(setting.contains(part), part);
+        if (QGuiApplication::primaryScreen()->logicalDotsPerInchX() == 96)  // the twips of a 96 dpi screen
+            for (QByteArray part : {"Width=10500\r\n", "Height=7500\r\n", "[VSplitter]\r\nLeft=3000\r\n\r\n[VSplitter]\r\nLeft=4700"})
+                QVERIFY2(setting.contains(part), part);
         QCOMPARE(store.tempFiles(), QStringList());  // snapshots and library copies gone
     }
 
     void refusalsComeInTheirOrder() {
-        {   // an empty Language=: the language message, and the file isn't repaired
+        // libraries installed, setting.ini made first, the change to it, the refusal
+        const struct { bool libraries, made; const char *from, *to, *message; } rows[] = {
+            {true, true, "Language=0409", "Language=", kNoLanguageIdMessage},
+            {false, true, "Charset=0", "Charset=", kNoLanguageFileMessage},  // the language file is tested first
+            {true, true, "Charset=0", "Charset=", kNoCharsetMessage},
+            {false, false, "", "", kNoLanguageFileMessage},  // setting.ini is made, 0409 found, no file
+        };
+        for (const auto& row : rows) {
+            init();
             ScratchStore store;
-            InstallLibraries(store);
-            EnsureStoreFiles();
-            setSetting(store, "Language=0409", "Language=");
+            if (row.libraries) InstallLibraries(store);
+            if (row.made) Setting(store, row.from, row.to);
             MsgBoxScript boxes;
             QCOMPARE(Main(), StartResult::Refused);
-            expectRefusal(boxes, kNoLanguageIdMessage);
-            QVERIFY(store.read(store.appFile("setting.ini")).contains("Language=\r\n"));
-        }
-        claimAnew();
-        {   // no language file and no charset: the language file is tested first
-            ScratchStore store;
-            EnsureStoreFiles();
-            setSetting(store, "Charset=0", "Charset=");
-            MsgBoxScript boxes;
-            QCOMPARE(Main(), StartResult::Refused);
-            expectRefusal(boxes, kNoLanguageFileMessage);
-        }
-        claimAnew();
-        {   // the language file there, the charset empty
-            ScratchStore store;
-            InstallLibraries(store);
-            EnsureStoreFiles();
-            setSetting(store, "Charset=0", "Charset=");
-            MsgBoxScript boxes;
-            QCOMPARE(Main(), StartResult::Refused);
-            expectRefusal(boxes, kNoCharsetMessage);
+            QCOMPARE(boxes.lines(), QStringList("Error|16|" + QString::fromLatin1(row.message)));
+            QCOMPARE(boxes.last().buttons, int(MsgOkOnly));
             QCOMPARE(store.tempFiles(), QStringList());  // no library was copied
-        }
-        claimAnew();
-        {   // no setting.ini: it is made, language 0409 is found, and the missing
-            // language file refuses the start
-            ScratchStore store;
-            MsgBoxScript boxes;
-            QCOMPARE(Main(), StartResult::Refused);
-            expectRefusal(boxes, kNoLanguageFileMessage);
-            QVERIFY(store.exists(store.appFile("setting.ini")));
+            QVERIFY(store.file("setting.ini").contains(QByteArray(row.made ? row.to : "Language=0409") + "\r\n"));
         }
     }
 
@@ -127,47 +86,31 @@ private slots:
         MsgBoxScript boxes;
         FrmMain* window = nullptr;
         QCOMPARE(Main(&window), StartResult::Started);
-        const QByteArray setting = store.read(store.appFile("setting.ini"));
-        const QStringList temp = store.tempFiles();
-        const QByteArray snapshot = store.read(store.tempFile("addr_cat.dat"));
+        const QByteArray setting = store.file("setting.ini");
         QFile::remove(store.appFile("cat.dat"));  // a second start would make it anew
-
         QCOMPARE(Main(), StartResult::Refused);
-        expectRefusal(boxes, kAlreadyRunningMessage);
+        QCOMPARE(boxes.lines(), QStringList("Error|16|" + QString::fromLatin1(kAlreadyRunningMessage)));
         QVERIFY(!store.exists(store.appFile("cat.dat")));
-        QCOMPARE(store.read(store.appFile("setting.ini")), setting);
-        QCOMPARE(store.tempFiles(), temp);
-        QCOMPARE(store.read(store.tempFile("addr_cat.dat")), snapshot);
+        QCOMPARE(store.file("setting.ini"), setting);
+        QCOMPARE(store.tempFiles(), QStringList({"addr_cat.dat", "addr_category.dat"}) + kLibraryCopies);
         window->close();
-        QCoreApplication::processEvents();
     }
 
-    void aStoredCountryBeyondTheListEndsTheStartSilently() {
-        ScratchStore store;
-        InstallLibraries(store);
-        EnsureStoreFiles();
-        setSetting(store, "Country=113", "Country=9999");
-        MsgBoxScript boxes;
-        FrmMain* window = nullptr;
-        QCOMPARE(Main(&window), StartResult::Failed);
-        QVERIFY(!window);
-        QVERIFY(!TheMainWindow());
-        QCOMPARE(boxes.count(), 0);
-        // The one failure path unloads the language and edition libraries.
-        QVERIFY(!store.tempFiles().contains("ma_langfile0409.dll"));
-        QVERIFY(!store.tempFiles().contains("ma_edition_0409.dll"));
-        UnloadAllLibraries();
-    }
-
-    void aStoredCountryThatIsNoNumberEndsTheStartToo() {
-        ScratchStore store;
-        InstallLibraries(store);
-        EnsureStoreFiles();
-        setSetting(store, "Country=113", "Country=abc");
-        MsgBoxScript boxes;
-        QCOMPARE(Main(), StartResult::Failed);
-        QCOMPARE(boxes.count(), 0);
-        UnloadAllLibraries();
+    void aStoredCountryBeyondTheListOrNoNumberEndsTheStartSilently() {
+        for (const char* country : {"Country=9999", "Country=abc"}) {
+            init();
+            ScratchStore store;
+            InstallLibraries(store);
+            Setting(store, "Country=113", country);
+            MsgBoxScript boxes;
+            FrmMain* window = nullptr;
+            QCOMPARE(Main(&window), StartResult::Failed);
+            QVERIFY(!window && !TheMainWindow());
+            QCOMPARE(boxes.count(), 0);
+            // The one failure path unloads the language and edition libraries.
+            QCOMPARE(store.tempFiles(), QStringList({"addr_cat.dat", "addr_category.dat", "addr_country.dll", "addr_phonecode.dll"}));
+            UnloadAllLibraries();
+        }
     }
 
     void theSplashNamesTheOwner() {
@@ -176,35 +119,26 @@ private slots:
         OwnerName = "Ingrid";
         frmprogress splash;
         splash.FormLoad();
-        QCOMPARE(splash.windowTitle(), GetLanguageString(308));
-        auto* caption = splash.findChild<QLabel*>("lbcaption");
-        QVERIFY(caption);
+        auto* caption = Control<QLabel>(&splash, "lbcaption");
         QVERIFY(GetLanguageString(536).contains("%username"));
-        QCOMPARE(caption->text(), QString(GetLanguageString(536)).replace("%username", "Ingrid"));
-        QCOMPARE(caption->font().pointSize(), 8);
-        QCOMPARE(caption->property("fontCharset").toInt(), 0);
+        QCOMPARE(splash.windowTitle() + "|" + caption->text(), "Tandry|" + GetLanguageString(536).replace("%username", "Ingrid"));
+        QCOMPARE(caption->font().pointSize() * 1000 + caption->property("fontCharset").toInt(), 8000);
         QVERIFY(!SkinEnabled);  // no skins on this system
         UnloadAllLibraries();
     }
 
-    void theOwnerComesFromTheDriveAndTheWarningWhenStagingIsImpossible() {
+    void aStagingAreaThatCannotBeMadeIsOnlyWarnedOf() {
         ScratchStore store;
         InstallLibraries(store);
-        // The staging area can't be made: a file stands where its folder should.
-        const QString blocker = store.app() + "/../blocker";
-        store.write(blocker, "x");
-        SetVellumarkFolderForTest(blocker + "/Vellumark");
+        store.write(store.app() + "/../blocker", "x");  // a file where the folder should be
+        SetVellumarkFolderForTest(store.app() + "/../blocker/Vellumark");
         MsgBoxScript boxes;
         FrmMain* window = nullptr;
         QCOMPARE(Main(&window), StartResult::Started);
-        QCOMPARE(boxes.count(), 1);
-        QCOMPARE(boxes.last().icon, int(MsgExclamation));
-        // No library could be copied, so every string is empty, the window
-        // caption included; the program runs all the same.
-        QCOMPARE(window->windowTitle(), QString());
-        QCOMPARE(window->cmbCountry->count(), 0);
+        // No library could be copied, so every string is empty; the program runs all the same.
+        QCOMPARE(boxes.lines(), QStringList("|48|"));
+        QCOMPARE(window->windowTitle() + QString::number(window->cmbCountry->count()), QString("0"));
         window->close();
-        QCoreApplication::processEvents();
     }
 };
 

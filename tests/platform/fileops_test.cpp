@@ -14,41 +14,37 @@
 TEST(FileOps, TheStagingAreaIsPrivateAndNoLinkIsFollowed) {
     ScratchStore store;
     ASSERT_TRUE(EnsureTempArea());
-    struct stat st;
-    ASSERT_EQ(::stat(QFile::encodeName(VellumarkFolder()).constData(), &st), 0);
-    EXPECT_EQ(st.st_mode & 0777, 0700u);
-    ASSERT_EQ(::stat(QFile::encodeName(TempArea()).constData(), &st), 0);
-    EXPECT_EQ(st.st_mode & 0777, 0700u);
-
-    // A link planted under a staging name: copying over it fails, and the
-    // file it points to is untouched.
-    const QString victim = store.appFile("victim.txt");
-    store.write(victim, "keep me");
-    store.write(store.appFile("cat.dat"), "\"N\",\"00001\",\"00002\"\r\n");
-    ASSERT_TRUE(QFile::link(victim, TempFile("addr_cat.tmp")));
-    EXPECT_FALSE(CopyFile(store.appFile("cat.dat"), TempFile("addr_cat.tmp")));
+    for (const QString& folder : {VellumarkFolder(), TempArea()}) {
+        struct stat st;
+        ASSERT_EQ(::stat(QFile::encodeName(folder).constData(), &st), 0);
+        EXPECT_EQ(st.st_mode & 0777, 0700u);
+    }
+    // A link planted under a staging name: no copy, append or read goes
+    // through it, and the file it points to is untouched.
+    store.put("victim.txt", "keep me");
+    ASSERT_TRUE(QFile::link(store.appFile("victim.txt"), TempFile("addr_cat.tmp")));
+    EXPECT_FALSE(CopyFile(store.appFile("victim.txt"), TempFile("addr_cat.tmp")));
     OutputFile out;
     EXPECT_FALSE(out.openForAppend(TempFile("addr_cat.tmp")));
     QByteArray bytes;
     EXPECT_FALSE(ReadWholeFile(TempFile("addr_cat.tmp"), bytes));
-    EXPECT_EQ(store.read(victim), "keep me");
-    EXPECT_FALSE(FileExists(TempFile("nothing")));
+    EXPECT_EQ(store.file("victim.txt"), "keep me");
     EXPECT_FALSE(FileExists(TempArea()));  // a folder is no file
 
     // A staging folder that is a link is not used.
     ScratchStore other;
-    QDir().mkpath(other.app() + "/elsewhere");
+    QDir().mkpath(other.appFile("elsewhere"));
     QDir().mkpath(QFileInfo(other.temp()).absolutePath());
-    ASSERT_TRUE(QFile::link(other.app() + "/elsewhere", other.temp()));
+    ASSERT_TRUE(QFile::link(other.appFile("elsewhere"), other.temp()));
     EXPECT_FALSE(EnsureTempArea());
 }
 
 TEST(FileOps, MovesFailOntoAFileAndCrossFileSystemsAsCopyAndDelete) {
     ScratchStore store;
-    store.write(store.appFile("a"), "A");
-    store.write(store.appFile("b"), "B");
+    store.put("a", "A");
+    store.put("b", "B");
     EXPECT_FALSE(MoveFile(store.appFile("a"), store.appFile("b")));
-    EXPECT_EQ(store.read(store.appFile("b")), "B");
+    EXPECT_EQ(store.file("b"), "B");
     EXPECT_TRUE(MoveFile(store.appFile("a"), store.appFile("c")));
     EXPECT_FALSE(store.exists(store.appFile("a")));
 
@@ -59,13 +55,13 @@ TEST(FileOps, MovesFailOntoAFileAndCrossFileSystemsAsCopyAndDelete) {
     const QString other = QString("/dev/shm/tandry-move-%1").arg(::getpid());
     store.write(other, "across");
     EXPECT_TRUE(MoveFile(other, store.appFile("d")));
-    EXPECT_EQ(store.read(store.appFile("d")), "across");
+    EXPECT_EQ(store.file("d"), "across");
     EXPECT_FALSE(QFile::exists(other));
 }
 
-TEST(FileOps, TheKthOperationFailsAndIsNamed) {
+TEST(FileOps, TheKthOperationOrTheNamedOneFails) {
     ScratchStore store;
-    store.write(store.appFile("x"), "1");
+    store.put("x", "1");
     FailFileOperationAt(2);
     EXPECT_TRUE(FileExists(store.appFile("x")));
     EXPECT_FALSE(CopyFile(store.appFile("x"), store.appFile("y")));
@@ -73,5 +69,10 @@ TEST(FileOps, TheKthOperationFailsAndIsNamed) {
     EXPECT_FALSE(store.exists(store.appFile("y")));
     EXPECT_TRUE(CopyFile(store.appFile("x"), store.appFile("y")));
     EXPECT_EQ(FileOperationCount(), 3);
+
+    FailFileOperationOn("exists " + store.appFile("y"));
+    EXPECT_TRUE(FileExists(store.appFile("x")));
+    EXPECT_FALSE(FileExists(store.appFile("y")));
+    EXPECT_TRUE(FileExists(store.appFile("y")));  // only the first of that name
     FailFileOperationAt(0);
 }

@@ -1,9 +1,8 @@
 #pragma once
-// Readable failure messages for Qt values in GoogleTest.
+// Readable failure messages for Qt text in GoogleTest; lists and maps of
+// them print through these element by element.
 #include <QByteArray>
-#include <QMap>
 #include <QString>
-#include <QStringList>
 #include <ostream>
 
 inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
@@ -17,17 +16,4 @@ inline void PrintTo(const QByteArray& b, std::ostream* os) {
         else *os << c;
     }
     *os << '"';
-}
-inline void PrintTo(const QStringList& list, std::ostream* os) {
-    *os << "{";
-    for (const QString& s : list) *os << " \"" << s.toStdString() << "\"";
-    *os << " }";
-}
-inline void PrintTo(const QMap<QString, QByteArray>& map, std::ostream* os) {
-    *os << "{";
-    for (auto it = map.begin(); it != map.end(); ++it) {
-        *os << " " << it.key().toStdString() << "=";
-        PrintTo(it.value(), os);
-    }
-    *os << " }";
 }

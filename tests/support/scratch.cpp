@@ -45,4 +45,15 @@ QStringList ScratchStore::tempFiles() const {
 
 QByteArray Cp1252(const char* utf8) { return ToCodePage(QString::fromUtf8(utf8), 1252); }
 
-QString Cp1252ToText(const char* utf8) { return QString::fromUtf8(utf8); }
+QByteArray RecordBytes(const QStringList& values) {
+    static const char* const keys[] = {"infoid", "infoname", "country", "category", "tel1",
+                                       "ext1",   "tel2",     "ext2",    "mobile",   "fax",
+                                       "company", "designation", "addr", "notes",  "mail"};
+    QByteArray text = "[Setting]\r\n";
+    for (int i = 0; i < 15; ++i) text += QByteArray(keys[i]) + "=" + Cp1252(values.value(i).toUtf8().constData()) + "\r\n";
+    return text;
+}
+
+void ScratchStore::putRecord(const QStringList& values) const {
+    put("data/addr" + values.value(0) + ".b64", RecordBytes(values));
+}

@@ -18,12 +18,19 @@ public:
     QByteArray read(const QString& path) const;  // empty when missing
     bool exists(const QString& path) const;
     QStringList tempFiles() const;               // names in the staging area, sorted
+    // A file of the application folder: its bytes, or written as given.
+    QByteArray file(const QString& name) const { return read(appFile(name)); }
+    void put(const QString& name, const QByteArray& bytes) const { write(appFile(name), bytes); }
+    // data/addr<values[0]>.b64 written from RecordBytes(values).
+    void putRecord(const QStringList& values) const;
 private:
     QTemporaryDir dir_;
 };
 
 // Windows-1252 bytes from a UTF-8 literal, for hand-written store files.
 QByteArray Cp1252(const char* utf8);
-// Text from Windows-1252 bytes written as a UTF-8 literal (for routines that
-// take text already read).
-QString Cp1252ToText(const char* utf8);
+inline QString U(const char* utf8) { return QString::fromUtf8(utf8); }
+// A record file as the contact dialogs write it: "[Setting]", then the 15
+// keys in their order with the values given (UTF-8, written in 1252; the
+// missing ones empty).
+QByteArray RecordBytes(const QStringList& values);

@@ -2,11 +2,11 @@
 
 #include <QLabel>
 #include <QVBoxLayout>
-#include "app/forms/captionrule.h"
 #include "app/core/globals.h"
 #include "app/core/inifile.h"
 #include "app/core/libraries.h"
 #include "app/core/placeholders.h"
+#include "app/forms/captionrule.h"
 #include "platform/core/appfolder.h"
 #include "platform/core/sysinfo.h"
 

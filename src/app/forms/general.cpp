@@ -2,10 +2,10 @@
 
 #include <QApplication>
 #include <exception>
-#include "app/forms/frmprogress.h"
 #include "app/core/globals.h"
 #include "app/core/inifile.h"
 #include "app/core/libraries.h"
+#include "app/forms/frmprogress.h"
 #include "main/forms/frmmain.h"
 #include "platform/core/appfolder.h"
 #include "platform/core/codepage.h"

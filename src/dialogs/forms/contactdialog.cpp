@@ -9,11 +9,11 @@
 #include <QPushButton>
 #include <QStyle>
 #include <exception>
-#include "app/forms/captionrule.h"
 #include "app/core/globals.h"
 #include "app/core/inifile.h"
 #include "app/core/libraries.h"
 #include "app/core/placeholders.h"
+#include "app/forms/captionrule.h"
 #include "dialogs/forms/frmphone.h"
 #include "dialogs/forms/itemcombo.h"
 #include "platform/core/msgbox.h"

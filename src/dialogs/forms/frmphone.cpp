@@ -7,8 +7,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include "app/forms/captionrule.h"
 #include "app/core/libraries.h"
+#include "app/forms/captionrule.h"
 #include "dialogs/core/phonecodes.h"
 #include "dialogs/forms/itemcombo.h"
 #include "platform/forms/pointer.h"

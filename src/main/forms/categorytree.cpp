@@ -6,10 +6,10 @@
 #include <QTreeWidget>
 #include <algorithm>
 #include "app/core/libraries.h"
-#include "main/forms/frmmain.h"
-#include "platform/forms/popup.h"
-#include "main/forms/treeitems.h"
 #include "main/core/categorycounts.h"
+#include "main/forms/frmmain.h"
+#include "main/forms/treeitems.h"
+#include "platform/forms/popup.h"
 #include "store/core/failure.h"
 #include "store/core/text.h"
 

@@ -2,12 +2,12 @@
 #include <QAction>
 #include <QApplication>
 #include <QTreeWidget>
+#include "main/core/contactrows.h"
 #include "main/forms/editcontact.h"
 #include "main/forms/frmmain.h"
-#include "platform/forms/popup.h"
 #include "main/forms/treeitems.h"
 #include "platform/forms/pointer.h"
-#include "main/core/contactrows.h"
+#include "platform/forms/popup.h"
 #include "store/core/paths.h"
 #include "store/core/record.h"
 #include "store/core/wholefile.h"

@@ -6,10 +6,10 @@
 #include <QToolBar>
 #include <QTreeWidget>
 #include "app/core/inifile.h"
-#include "platform/core/numbers.h"
 #include "main/forms/frmmain.h"
 #include "main/forms/twips.h"
 #include "main/forms/vsplitter.h"
+#include "platform/core/numbers.h"
 
 QRect FrmMain::TwipsOf(QWidget* control) const {
     auto it = rectTwips.constFind(control);

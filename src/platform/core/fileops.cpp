@@ -12,6 +12,7 @@
 namespace {
 
 long g_failAt = 0;
+QString g_failOn;
 long g_count = 0;
 QString g_failed;
 bool g_logging = false;
@@ -21,9 +22,13 @@ QStringList g_trace;
 // Counts one operation; false when it is the one a test made fail.
 bool Step(const char* kind, const QString& path) {
     ++g_count;
-    if (g_logging) g_trace << QString::fromLatin1(kind) + " " + path;
-    if (g_failAt != 0 && g_count == g_failAt) {
-        g_failed = QString::fromLatin1(kind) + " " + path;
+    const bool failHere = g_failAt != 0 && g_count == g_failAt;
+    if (!failHere && !g_logging && g_failOn.isEmpty()) return true;
+    const QString operation = QString::fromLatin1(kind) + " " + path;
+    if (g_logging) g_trace << operation;
+    if (failHere || operation == g_failOn) {
+        g_failed = operation;
+        g_failOn.clear();
         return false;
     }
     return true;
@@ -222,8 +227,13 @@ bool OutputFile::close() {
 
 void FailFileOperationAt(long k) {
     g_failAt = k;
+    g_failOn.clear();
     g_count = 0;
     g_failed.clear();
+}
+void FailFileOperationOn(const QString& operation) {
+    FailFileOperationAt(0);
+    g_failOn = operation;
 }
 long FileOperationCount() { return g_count; }
 QString FailedFileOperation() { return g_failed; }

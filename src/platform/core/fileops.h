@@ -58,6 +58,9 @@ private:
 // Makes operation number k (counted from 1 after the reset) fail; 0 turns
 // failing off. Resets the count.
 void FailFileOperationAt(long k);
+// Makes the next operation that is exactly `operation` ("exists <path>") fail,
+// once. Resets the count.
+void FailFileOperationOn(const QString& operation);
 long FileOperationCount();
 // "copy <target>", "kill <path>", ... of the operation made to fail, or empty.
 QString FailedFileOperation();

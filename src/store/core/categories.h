@@ -2,10 +2,10 @@
 // category.dat: one category a line, "id","name", in the order of creation.
 // Every reader splits a line at every comma and strips one character off
 // each end of the first two elements, so a name that holds a comma is cut.
-#include "store/core/ids.h"
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include "store/core/ids.h"
 
 struct CategoryLine {
     QString id;

@@ -2,8 +2,8 @@
 
 #include <cmath>
 #include "platform/core/fileops.h"
-#include "store/core/paths.h"
 #include "store/core/ids.h"
+#include "store/core/paths.h"
 
 namespace {
 // A 24-bit linear congruential generator with the classic BASIC constants

@@ -7,8 +7,8 @@
 // An append adds a line to the work copy (addr_X.tmp) and renames it to the
 // staged file (addr_X.dat); a replace or a removal streams the work copy
 // into the staged file line by line.
-#include "store/core/ids.h"
 #include <QString>
+#include "store/core/ids.h"
 
 bool AppendCatLine(const ContactId& contactId, const QString& country, const CategoryId& categoryId);
 bool AppendCtyLine(const ContactId& contactId, const QString& country);

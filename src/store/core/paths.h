@@ -1,7 +1,7 @@
 #pragma once
 // Where each file of the store lies.
-#include "store/core/ids.h"
 #include <QString>
+#include "store/core/ids.h"
 
 QString CategoryFile();                       // <app>/category.dat
 QString LiveIndex(const QString& index);      // <app>/<index>.dat, index: cat, cty, name

@@ -1,8 +1,8 @@
 #include "store/core/record.h"
 
-#include "platform/core/numbers.h"
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
+#include "platform/core/numbers.h"
 #include "platform/core/profile.h"
 #include "store/core/paths.h"
 #include "store/core/text.h"

@@ -2,8 +2,8 @@
 // A contact's record file, data/addr<id>.b64: "[Setting]" and one key=value
 // line per field, in a fixed order. Despite the name nothing in it is
 // base-64: it is plain text in the code page, read key by key.
-#include "store/core/ids.h"
 #include <QString>
+#include "store/core/ids.h"
 
 // The contact in hand, shared by the forms: the main window fills it before
 // a dialog opens and clears it after the dialog closes. Values stay as

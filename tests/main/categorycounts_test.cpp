@@ -1,0 +1,85 @@
+// The tree's nodes and the list's rows worked out without a window: exact
+// counts, the 16-bit limits, failures that keep what was made, and the name
+// of a category from its node text.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include "main/core/categorycounts.h"
+#include "main/core/contactrows.h"
+#include "store/core/failure.h"
+#include "store/core/record.h"
+#include "support/printers.h"
+#include "support/scratch.h"
+
+namespace {
+const QString kTwo = "\"00001\",\"Main\"\r\n\"00002\",\"Work\"\r\n";
+
+QString Rows(const QString& country, const QString& category, int times) {
+    QString text;
+    for (int i = 0; i < times; ++i) text += "\"" + country + "\",\"" + category + "\",\"" + QString::number(i) + "\"\r\n";
+    return text;
+}
+
+// The nodes as "key:text", and whether the routine reported success.
+QStringList Nodes(const QString& categories, const QString& cat, const QString& country) {
+    QList<CategoryNode> nodes;
+    QStringList texts{CategoryNodesFromText(categories, cat, country, nodes) ? "ok" : "failed"};
+    for (const CategoryNode& n : nodes) texts << n.key + ":" + n.text;
+    return texts;
+}
+}  // namespace
+
+TEST(CategoryNodes, CountsTheRowsOfTheFilterCountryExactlyAndKeepWhatWasMadeOnAFailure) {
+    const QString cat = "\"Norway\",\"00002\",\"00011\"\r\n\"NORWAY\",\"00001\",\"00012\"\r\n"
+                        "\"Norway\",\"00002\",\"00013\"\r\n\"Norway\",\"00001\",\"00014\"\r\n";
+    const QString workFirst = "\"00002\",\"Work\"\r\n\"00001\",\"Main\"\r\n\"00003\",\"Home\"\r\n";
+    // categories, cat.dat, country, nodes
+    const std::tuple<QString, QString, QString, QStringList> rows[] = {
+        {kTwo, cat, "Norway", {"ok", "id00001:Main (1)", "id00002:Work (2)"}},
+        {kTwo, cat, "Sweden", {"ok", "id00001:Main", "id00002:Work"}},
+        // a country with a comma shifts the fields of its row: it counts nothing
+        {kTwo, "\"Bosnia, Herz\",\"00001\",\"00011\"\r\n", "Bosnia, Herz", {"ok", "id00001:Main", "id00002:Work"}},
+        {kTwo, Rows("Norway", "00001", 32767), "Norway", {"ok", "id00001:Main (32767)", "id00002:Work"}},
+        // the 16-bit counter overflows after Work was made
+        {workFirst, Rows("Norway", "00001", 32768), "Norway", {"failed", "id00002:Work"}},
+        // without contacts the names are added as they are read
+        {kTwo + "X,\"Bad\"\r\n\"00004\",\"Late\"\r\n", "", "Norway", {"failed", "id00001:Main", "id00002:Work"}},
+        // a damaged cat.dat row ends the routine before any category is added
+        {kTwo, "\"Norway\",\"00001\",\"00011\"\r\n\"Norway\"\r\n", "Norway", {"failed"}},
+        // two categories of one id can't both be nodes
+        {kTwo + "\"00001\",\"Again\"\r\n", "", "Norway", {"failed", "id00001:Main", "id00002:Work"}},
+    };
+    for (const auto& [categories, catDat, country, nodes] : rows)
+        EXPECT_EQ(Nodes(categories, catDat, country), nodes) << categories.toStdString() << catDat.left(80).toStdString();
+}
+
+TEST(CategoryNodes, NameFromNodeTextCutsAtFirstParenthesis) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"  Main (12) ", "Main"}, {" Club (old) (4) ", "Club"}, {"A(3)", ""}, {" Work ", "Work"}};
+    for (const auto& [text, name] : rows) EXPECT_EQ(CategoryNameFromNodeText(text), QString(name)) << text;
+    EXPECT_THROW(CategoryNameFromNodeText(" (12)"), RoutineFailure);
+}
+
+TEST(ListRows, AFailureKeepsTheRowsAndTheSnapshotMayHoldAt32766Lines) {
+    ScratchStore store;
+    QDir().mkpath(store.appFile("data"));
+    ClearContactBuffer();
+    store.putRecord({"00011", "Åse Berg", "0", "00001", "", "", "", "", "", "", "Fjord AS", "", "", "", "ase@example.no"});
+    auto shown = [](const QList<ContactRow>& rows) {
+        QStringList text;
+        for (const ContactRow& r : rows) text << r.contactId + ":" + r.name + ":" + r.mail + ":" + r.company;
+        return text;
+    };
+    QList<ContactRow> rows;
+    EXPECT_FALSE(ContactRowsFromLines({"\"Norway\",\"00001\",\"00011\"", "\"Norway\",\"00001\""}, "Norway", "00001", rows));
+    EXPECT_EQ(shown(rows), QStringList({U("00011:Åse Berg:ase@example.no:Fjord AS")}));
+    QStringList lines(32766, "\"Sweden\",\"00001\",\"00014\"");
+    lines << "\"Norway\",\"00001\",\"00011\"";
+    rows.clear();
+    EXPECT_FALSE(ContactRowsFromLines(lines, "Norway", "00001", rows));
+    EXPECT_TRUE(rows.isEmpty());
+    lines.removeFirst();
+    EXPECT_TRUE(ContactRowsFromLines(lines, "Norway", "00001", rows));
+    EXPECT_EQ(rows.size(), 1);
+    ClearContactBuffer();
+}
