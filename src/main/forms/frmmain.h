@@ -96,6 +96,7 @@ private:
 
     // Each placed control's rectangle in twips, as the layout routines set it.
     QHash<QWidget*, QRect> rectTwips;
+    bool SetTwips(QWidget* control, void (QRect::*side)(int), int value, bool isSize);
     bool SetLeft(QWidget* control, int value);
     bool SetTop(QWidget* control, int value);
     bool SetWidth(QWidget* control, int value);

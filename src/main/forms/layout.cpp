@@ -25,37 +25,21 @@ void FrmMain::ApplyGeometry(QWidget* control) {
                          TwipsToPixelsY(t.height()));
 }
 
-// A negative size is an invalid value: the assignment fails and is left out.
-bool FrmMain::SetLeft(QWidget* c, int v) {
-    QRect t = TwipsOf(c);
-    t.moveLeft(v);
-    rectTwips[c] = t;
-    ApplyGeometry(c);
+// One side of a control's rectangle in twips, set as the window's property
+// would be. A negative size is an invalid value: the assignment fails and is
+// left out.
+bool FrmMain::SetTwips(QWidget* control, void (QRect::*side)(int), int value, bool isSize) {
+    if (isSize && value < 0) return false;
+    QRect t = TwipsOf(control);
+    (t.*side)(value);
+    rectTwips[control] = t;
+    ApplyGeometry(control);
     return true;
 }
-bool FrmMain::SetTop(QWidget* c, int v) {
-    QRect t = TwipsOf(c);
-    t.moveTop(v);
-    rectTwips[c] = t;
-    ApplyGeometry(c);
-    return true;
-}
-bool FrmMain::SetWidth(QWidget* c, int v) {
-    if (v < 0) return false;
-    QRect t = TwipsOf(c);
-    t.setWidth(v);
-    rectTwips[c] = t;
-    ApplyGeometry(c);
-    return true;
-}
-bool FrmMain::SetHeight(QWidget* c, int v) {
-    if (v < 0) return false;
-    QRect t = TwipsOf(c);
-    t.setHeight(v);
-    rectTwips[c] = t;
-    ApplyGeometry(c);
-    return true;
-}
+bool FrmMain::SetLeft(QWidget* c, int v) { return SetTwips(c, &QRect::moveLeft, v, false); }
+bool FrmMain::SetTop(QWidget* c, int v) { return SetTwips(c, &QRect::moveTop, v, false); }
+bool FrmMain::SetWidth(QWidget* c, int v) { return SetTwips(c, &QRect::setWidth, v, true); }
+bool FrmMain::SetHeight(QWidget* c, int v) { return SetTwips(c, &QRect::setHeight, v, true); }
 
 int FrmMain::TwipsWidth() const { return PixelsToTwipsX(width()); }
 int FrmMain::TwipsHeight() const { return PixelsToTwipsY(height()); }
