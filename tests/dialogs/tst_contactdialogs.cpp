@@ -203,7 +203,7 @@ private slots:
             kept = Shown(dlg) << QString::number(dlg.isVisible());
         });
         ShowModal(&dlg);
-        QCOMPARE(s.boxes.lines(), QStringList({"|16|Error: Invalid property value",
+        QCOMPARE(s.boxes.lines(), QStringList({"Tandry|16|Error: Invalid property value",
                                                "Tandry - Error|48|There is no e-mail address to send a message to.",
                                                kNotSaved}));
         QCOMPARE(calls, QStringList("open|mailto:  not an address "));

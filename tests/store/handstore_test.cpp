@@ -183,3 +183,36 @@ TEST_F(HandStore, IdsComeUnseededAndSkipTakenNumbers) {
     EXPECT_EQ(GenID(), first);
     EXPECT_EQ(IdText(42) + IdText(32766), "0004232766");
 }
+
+TEST_F(HandStore, TheBatchWritesOfTheMainWindow) {
+    // The delete walk's step: the record rewritten, then removed; nothing of
+    // the contact stays in the staging area once the walk clears it.
+    ASSERT_TRUE(DeleteContactFiles("00011"));
+    DiscardStagedFiles("00011");
+    EXPECT_EQ(store.file("cat.dat"), Cp1252("\"France\",\"00001\",\"00012\"\r\n\"Deutschland\",\"00001\",\"00013\"\r\n"));
+    EXPECT_FALSE(store.exists(store.appFile("data/addr00011.b64")));
+    EXPECT_EQ(store.tempFiles(), QStringList());
+    // A record that can't be deleted carries the run time's "File not found".
+    FailFileOperationOn("kill " + store.appFile("data/addr00012.b64"));
+    const StoreResult failed = DeleteContactFiles("00012");
+    EXPECT_EQ(failed.error() == StoreError::Failed && !failed ? failed.runtimeError() : -1, 53);
+
+    // A copy keeps the filter's country index in its record; its index lines
+    // take the country picked, and name.dat the name as the record holds it.
+    store.putRecord({"00013", "Straße \"\"S\"\"", "80", "00001"});
+    ContactId copy;
+    ASSERT_TRUE(CopyContactFiles("00013", "00002", U("Österreich"), 12, &copy));
+    DiscardStagedFiles(copy);
+    EXPECT_EQ(store.file("data/addr" + copy + ".b64"), RecordBytes({copy, "Straße \"\"S\"\"", "12", "00002"}));
+    EXPECT_TRUE(store.file("cat.dat").endsWith(Cp1252("\"Österreich\",\"00002\",\"") + copy.toLatin1() + "\"\r\n"));
+    EXPECT_TRUE(store.file("name.dat").endsWith("\"" + copy.toLatin1() + Cp1252("\",\"Straße \"\"S\"\"\"\r\n")));
+
+    // A move keeps the id, rewrites the country and the category, and only
+    // replaces a name line that is there.
+    ASSERT_TRUE(MoveContactFiles("00013", "00002", "Norge", 7));
+    DiscardStagedFiles("00013");
+    EXPECT_EQ(store.file("data/addr00013.b64"), RecordBytes({"00013", "Straße \"\"S\"\"", "7", "00002"}));
+    EXPECT_TRUE(store.file("cat.dat").contains("\"Norge\",\"00002\",\"00013\"\r\n"));
+    EXPECT_TRUE(store.file("cty.dat").contains("\"Norge\",\"00013\"\r\n"));
+    EXPECT_EQ(store.tempFiles(), QStringList());
+}

@@ -19,6 +19,7 @@
 #include "platform/forms/popup.h"
 #include "platform/forms/shell.h"
 #include "store/core/genid.h"
+#include "store/core/indexfiles.h"
 #include "store/core/record.h"
 #include "support/libraryfixture.h"
 #include "support/msgboxscript.h"
@@ -42,6 +43,7 @@ struct FormStore {
         EnsureStoreFiles();
         QDir().mkpath(store.appFile("data"));
         ResetRandomForTest();
+        ReleaseFileNumbersForTest();
         ClearContactBuffer();
         ContactEditFlag = false;
         ClearModalScripts();

@@ -7,6 +7,7 @@
 #include "dialogs/forms/itemcombo.h"
 #include "main/core/mainwindowlink.h"
 #include "platform/core/msgbox.h"
+#include "platform/core/runtimeerror.h"
 #include "platform/forms/pointer.h"
 #include "platform/forms/shell.h"
 #include "store/core/categories.h"
@@ -37,7 +38,7 @@ void frmedittask::FormActivate() {
     txtname->setText(ContactBuffer.infoname);
     if (!SetListIndex(cbCountry, ContactBuffer.country)) {
         // the run time's words for a list index the list doesn't hold
-        MsgBox(QStringLiteral("Error: Invalid property value"), MsgCritical, QString());
+        ShowRuntimeError(RuntimeErrorDescription(ErrInvalidPropertyValue));
         return;
     }
     cbCategory->setCurrentIndex(FindCategoryIndex(cbCategory->itemTexts(), ContactBuffer.category));

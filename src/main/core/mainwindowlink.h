@@ -22,6 +22,9 @@ public:
     virtual void RefreshListView1(const QString& country, const QString& key) = 0;
     virtual void CopyAddrFile() = 0;
     virtual void DelAddrFile() = 0;
+    // Copies the checked rows into `categoryId` and `country` (the name is
+    // not used), asking about each name clash.
+    virtual void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) = 0;
 
     MainWindowLink(const MainWindowLink&) = delete;
     MainWindowLink& operator=(const MainWindowLink&) = delete;

@@ -83,11 +83,20 @@ void FrmMain::LoadCategory() {
 // touches strNodeKey, strCountry or the list, so the root ends selected while
 // the list goes on showing the category last clicked.
 void FrmMain::RefreshCategory() {
+    SetDropHighlight(nullptr);
     TreeView1->clear();
     LoadCategory();
 }
 
+// The drop highlight shows as the selection's colour on the node under a drag.
+void FrmMain::SetDropHighlight(QTreeWidgetItem* node) {
+    if (DropHighlight) DropHighlight->setData(0, Qt::BackgroundRole, QVariant());
+    DropHighlight = node;
+    if (node) node->setBackground(0, TreeView1->palette().highlight());
+}
+
 void FrmMain::TreeView1_NodeClick() {
+    SetDropHighlight(nullptr);
     QTreeWidgetItem* node = SelectedNode(TreeView1);
     if (!node) throw RoutineFailure("no selected node");
     strNodeKey = NodeKey(node);

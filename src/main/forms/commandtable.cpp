@@ -14,6 +14,9 @@ void NewCategory(FrmMain& window);       // newcategory.cpp
 void FindByName(FrmMain& window);        // findkeys.cpp
 void FindByEmail(FrmMain& window);       // findkeys.cpp
 void FindByCompany(FrmMain& window);     // findkeys.cpp
+void DeleteContacts(FrmMain& window);         // deletecontacts.cpp
+void DeleteCheckedContacts(FrmMain& window);  // deletecontacts.cpp
+void ShowDuplicateDialog(FrmMain& window);    // duplicatecontacts.cpp
 
 namespace {
 using K = CommandKind;
@@ -79,7 +82,7 @@ const Command kCommands[] = {
     Entry("mnuFileExit", "mnuFile", "E&xit", L(159), UnloadMainWindow),
     Menu("mnuContact", kBar, "&Contact", L(116)),
     Entry("mnuAdd_info", "mnuContact", "&New Contact", L(117), NewContact),
-    Entry("mnuDelete_info", "mnuContact", "&Delete Contact", L(118)),
+    Entry("mnuDelete_info", "mnuContact", "&Delete Contact", L(118), DeleteContacts),
     Entry("mnuFind_info", "mnuContact", "&Find Contact", L(119)),
     Menu("mnuSelect", kBar, "&Select", L(151)),
     Entry("mnuSelectAll", "mnuSelect", "&Select All", L(120), SelectAll),
@@ -109,8 +112,8 @@ const Command kCommands[] = {
 
     // ---- the pop-up menus ----
     Popup("mnuRightClick", "RightClick"),  // over the list
-    Entry("mnuDelete_p", "mnuRightClick", "Delete Contact", L(305)),
-    Entry("mnuDuplicate_c", "mnuRightClick", "Duplicate Contact", L(328)),
+    Entry("mnuDelete_p", "mnuRightClick", "Delete Contact", L(305), DeleteCheckedContacts),
+    Entry("mnuDuplicate_c", "mnuRightClick", "Duplicate Contact", L(328), ShowDuplicateDialog),
     Entry("mnuEdit_p", "mnuRightClick", "Edit Contact", L(306), EditFromMenu),
     Entry("mnuPrint_p", "mnuRightClick", "Print Contact", L(317), PrintContacts),
     Popup("mnuTreeViewRightClick", "TreeViewRightClick"),  // over the tree

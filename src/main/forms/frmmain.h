@@ -12,6 +12,7 @@
 #include <QMainWindow>
 #include <QRect>
 #include <QString>
+#include "main/core/clashes.h"
 #include "main/core/mainwindowlink.h"
 #include "platform/forms/modal.h"
 
@@ -21,6 +22,7 @@ class QLabel;
 class QMenu;
 class QToolBar;
 class QTreeWidget;
+class QTreeWidgetItem;
 class VSplitterBar;
 
 class FrmMain : public QMainWindow, public ActivationTarget, public MainWindowLink {
@@ -34,6 +36,11 @@ public:
     // ---- window-level state of its own ----
     qint16 intCountryClick = 0;  // 1 after load: guards the first click of cmbCountry
     QString Tag;                 // the window's tag text: the id of the category right-clicked
+    WindowArrays Arrays;         // the duplicate and move batches' lists, rebuilt per run
+    QString strDropCategory;     // the name of the category of the last drop
+    QString strDropCategoryId;   // its id; kept when a drop finds no category of the name
+    QTreeWidgetItem* DropHighlight = nullptr;  // the node under a drag; none after a click
+    void SetDropHighlight(QTreeWidgetItem* node);
 
     // ---- routines the other forms call back ----
     void LoadCategory() override;
@@ -41,6 +48,7 @@ public:
     void RefreshListView1(const QString& country, const QString& key) override;
     void CopyAddrFile() override;
     void DelAddrFile() override;
+    void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) override;
     static QString CategoryNameFromNode(const QString& text);
 
     // ---- controls, by their names ----

@@ -12,10 +12,14 @@ enum class StoreError {
 class StoreResult {
 public:
     StoreResult() = default;  // done
-    StoreResult(StoreError error) : error_(error) {}
+    StoreResult(StoreError error, int runtimeError = 0) : error_(error), runtimeError_(runtimeError) {}
     explicit operator bool() const { return !error_; }
     StoreError error() const { return error_.value_or(StoreError::Failed); }
+    // The run time's error number of a failure raised inside the write (a
+    // file that could not be written or deleted); 0 for a step that gave false.
+    int runtimeError() const { return runtimeError_; }
 
 private:
     std::optional<StoreError> error_;
+    int runtimeError_ = 0;
 };

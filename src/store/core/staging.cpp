@@ -133,17 +133,3 @@ StoreResult SaveEditedContact(const ContactForm& form, const ContactId& bufferId
     if (editFlag || !result) DiscardStagedFiles(id);
     return result;
 }
-
-bool RemoveContactFiles(const ContactId& contactId) {
-    try {
-        ReadContactWithId(contactId);
-        // The commit then has a record to move; it is deleted right after.
-        return WriteRecordFile(StagedRecordPath(contactId),
-                               RecordTextFromBuffer(contactId, ContactBuffer)) &&
-               StageIndexFiles() && RemoveCatLine(contactId) && RemoveCtyLine(contactId) &&
-               RemoveNameLine(contactId) && CommitStagedFiles(contactId, &ContactBuffer) &&
-               Kill(RecordPath(contactId));
-    } catch (const RoutineFailure&) {
-        return false;
-    }
-}

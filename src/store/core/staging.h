@@ -36,9 +36,3 @@ StoreResult SaveNewContact(const ContactForm& form, const SaveProgress& progress
 // is saved as a new one, with a fresh id. The same reasons as a new contact.
 StoreResult SaveEditedContact(const ContactForm& form, const ContactId& bufferId, bool editFlag,
                               const SaveProgress& progress = {});
-
-// Removes one contact: the record read into ContactBuffer and staged, the
-// three lines filtered out, the four files committed, then the live record
-// deleted. Each step runs only if the one before gave true. The work copies
-// stay for the caller's DiscardStagedFiles.
-bool RemoveContactFiles(const ContactId& contactId);

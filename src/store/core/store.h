@@ -2,6 +2,7 @@
 // The contact store: the files on the drive, the staging area, the staged
 // write and the ids. Every form reads and writes the store through these;
 // none of them shows a message.
+#include "store/core/batchwrites.h"
 #include "store/core/categories.h"
 #include "store/core/genid.h"
 #include "store/core/ids.h"

@@ -1,0 +1,35 @@
+#include "main/forms/batchsteps.h"
+
+#include <QApplication>
+#include "import/forms/frmmsg.h"
+#include "main/forms/frmmain.h"
+#include "platform/forms/pointer.h"
+#include "store/core/batchwrites.h"
+#include "store/core/failure.h"
+#include "store/core/record.h"
+
+void ProcessQueue() { QApplication::processEvents(); }
+
+int AskClash(FrmMain& window, const QString& name) {
+    window.strClashName = name;
+    frmMsg question(&window);
+    ShowModal(&question, &window);
+    return question.ConfirmResult();
+}
+
+void RemoveContact(FrmMain& window, const QString& oldId) {
+    RemoveContactFiles(oldId);
+    SetScreenPointer(0);
+    window.CopyAddrFile();
+    ClearContactBuffer();
+    window.RefreshListView1(window.strCountry, window.strNodeKey);
+}
+
+void TakeRows(FrmMain& window, const QStringList& ids, const QStringList& names) {
+    WindowArrays& a = window.Arrays;
+    a.Empty();
+    if (!a.Fill()) throw RoutineFailure("the store's lists can't be read");
+    a.arrSelId = ids;
+    a.arrSelName = names;
+    a.TakeRows();
+}
