@@ -13,7 +13,7 @@
 
 namespace {
 int g_timeLimit = 15000;
-quint16 g_loopbackPort = 0;
+quint16 g_testProxyPort = 0;
 
 // The proxy the desktop is set to use for each address.
 class SystemProxyFactory : public QNetworkProxyFactory {
@@ -41,8 +41,8 @@ bool Has(quint32 flags, quint32 flag) { return (flags & flag) == flag; }
 QUrl RequestUrl(const InternetRequest& r, bool secure) {
     QUrl url;
     url.setScheme(secure ? QStringLiteral("https") : QStringLiteral("http"));
-    url.setHost(g_loopbackPort ? QStringLiteral("127.0.0.1") : r.host);
-    url.setPort(g_loopbackPort ? g_loopbackPort : r.port);
+    url.setHost(r.host);
+    if (r.port != (secure ? 443 : 80)) url.setPort(r.port);  // "Host:" names a port only when it isn't the scheme's
     // The object name is sent as it stands, a query after "?" included.
     const qsizetype question = r.path.indexOf(QLatin1Char('?'));
     url.setPath("/" + r.path.left(question < 0 ? r.path.size() : question), QUrl::TolerantMode);
@@ -67,33 +67,27 @@ QNetworkRequest NetworkRequest(const InternetRequest& r) {
         request.setRawHeader("Pragma", "no-cache");
     }
     request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    if (g_loopbackPort) {
-        const bool defaultPort = r.port == (secure ? 443 : 80);
-        request.setRawHeader("Host", (defaultPort ? r.host : r.host + ":" + QString::number(r.port)).toLatin1());
-        request.setPeerVerifyName(r.host);
-    }
     return request;
 }
 
-// Of the certificate's faults only a wrong host name may pass, and only
-// when the request says so.
-void PassWrongHostName(QNetworkReply* reply, quint32 flags) {
-    QObject::connect(reply, &QNetworkReply::sslErrors, reply, [reply, flags](const QList<QSslError>& errors) {
-        if (!Has(flags, kInternetFlagIgnoreCertCnInvalid)) return;
-        QList<QSslError> passing;
-        for (const QSslError& error : errors)
-            if (error.error() == QSslError::HostNameMismatch) passing << error;
-        reply->ignoreSslErrors(passing);
-    });
-}
 }  // namespace
+
+QList<QSslError> PassingCertificateErrors(const QList<QSslError>& errors, quint32 flags) {
+    QList<QSslError> passing;
+    if (!Has(flags, kInternetFlagIgnoreCertCnInvalid)) return passing;
+    for (const QSslError& error : errors)
+        if (error.error() == QSslError::HostNameMismatch) passing << error;
+    return passing;
+}
 
 InternetAnswer SendInternetRequest(const InternetRequest& r) {
     QNetworkAccessManager session;
-    if (g_loopbackPort) session.setProxy(QNetworkProxy::NoProxy);
+    if (g_testProxyPort) session.setProxy(QNetworkProxy(QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), g_testProxyPort));
     else session.setProxyFactory(new SystemProxyFactory);
     QNetworkReply* reply = session.sendCustomRequest(NetworkRequest(r), r.method.toLatin1(), r.body);
-    PassWrongHostName(reply, r.flags);
+    QObject::connect(reply, &QNetworkReply::sslErrors, reply, [reply, flags = r.flags](const QList<QSslError>& errors) {
+        reply->ignoreSslErrors(PassingCertificateErrors(errors, flags));
+    });
 
     bool timedOut = false;
     QEventLoop wait;
@@ -124,4 +118,4 @@ InternetAnswer SendInternetRequest(const InternetRequest& r) {
 
 void SetInternetTimeLimit(int milliseconds) { g_timeLimit = milliseconds; }
 int InternetTimeLimit() { return g_timeLimit; }
-void SetInternetLoopbackForTest(quint16 port) { g_loopbackPort = port; }
+void SetInternetProxyForTest(quint16 port) { g_testProxyPort = port; }

@@ -8,6 +8,8 @@
 // local event loop that keeps painting the windows and holds back the user's
 // input until the answer is in, and for no longer than the time limit.
 #include <QByteArray>
+#include <QList>
+#include <QSslError>
 #include <QString>
 
 // The request flags, by their Windows values.
@@ -34,6 +36,10 @@ struct InternetAnswer {
     QByteArray body;
 };
 
+// Of a certificate's faults only a wrong host name passes, and only when
+// the flags say so; any other fault ends the request.
+QList<QSslError> PassingCertificateErrors(const QList<QSslError>& errors, quint32 flags);
+
 // Connects through the system's proxy configuration.
 InternetAnswer SendInternetRequest(const InternetRequest& request);
 
@@ -42,6 +48,6 @@ InternetAnswer SendInternetRequest(const InternetRequest& request);
 void SetInternetTimeLimit(int milliseconds);
 int InternetTimeLimit();
 
-// ---- for tests: every connection goes to 127.0.0.1 on this port, with no
-// proxy, while the request still names the host it was meant for; 0 ends it.
-void SetInternetLoopbackForTest(quint16 port);
+// ---- for tests: every request goes through an HTTP proxy on 127.0.0.1 at
+// this port, in place of the system's proxies; 0 ends it.
+void SetInternetProxyForTest(quint16 port);
