@@ -14,7 +14,6 @@
 #include "platform/core/sysinfotool.h"
 #include "platform/forms/skinengine.h"
 #include "platform/forms/wininet.h"
-#include "services/forms/frmabout.h"
 #include "services/forms/frmupdate.h"
 #include "services/forms/modwininet.h"
 #include "support/formstore.h"
@@ -85,14 +84,9 @@ QRgb TreeBackground(const FrmMain& w) {  // below the rows
 class TestServices : public QObject {
     Q_OBJECT
 private slots:
-    void cleanup() {
-        SetAppVersionForTest({});
-        SetOsVersionForTest(0, 0);
-        SetSkinEngineLogForTest(nullptr);
-        ResetSkinEngineForTest();
-        SkinEnabled = false;
-        SkinPath.clear();
-        SetSystemInformationToolsForTest({});
+    void cleanup() {  // the version, the system, the engine and the tools as they were
+        SetAppVersionForTest({}), SetOsVersionForTest(0, 0), SetSystemInformationToolsForTest({});
+        SetSkinEngineLogForTest(nullptr), ResetSkinEngineForTest(), SkinEnabled = false, SkinPath.clear();
     }
 
     void theRequestAsTheServerReceivesIt() {
@@ -244,17 +238,6 @@ private slots:
                                      GetEditionString(500), "OK (still open)"}));
         QCOMPARE(s.boxes.lines(), QStringList("Tandry|0|System Information Is Unavailable At This Time"));
         QCOMPARE(PendingModalScripts(), 0);
-    }
-
-    void aSystemInformationToolFoundIsStartedWithoutWaiting() {
-        FormStore s;
-        const QString tool = s.store.appFile("tool");
-        s.store.put("tool", "#!/bin/sh\ntouch \"$0.ran\"\n");
-        QFile::setPermissions(tool, QFile::ReadOwner | QFile::ExeOwner);
-        SetSystemInformationToolsForTest({"no-such-tool", tool});
-        StartSysInfo();
-        QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(tool + ".ran"), 5000);
-        QCOMPARE(s.boxes.count(), 0);
     }
 };
 
