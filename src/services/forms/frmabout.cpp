@@ -20,6 +20,7 @@ QLabel* NewLabel(QWidget* form, const char* name, const QString& design) {
     auto* label = new QLabel(design, form);
     label->setObjectName(name);
     label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return label;
 }
 }  // namespace
