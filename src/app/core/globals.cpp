@@ -4,5 +4,6 @@ QString LanguageId;
 QString CharsetId;
 QString OwnerName;
 bool SkinEnabled = false;
+QString SkinPath;
 
 int LabelFontSize() { return LanguageId == "0804" || LanguageId == "0404" ? 9 : 8; }

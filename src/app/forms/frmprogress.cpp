@@ -9,6 +9,7 @@
 #include "app/forms/captionrule.h"
 #include "platform/core/appfolder.h"
 #include "platform/core/sysinfo.h"
+#include "services/forms/skins.h"
 
 frmprogress::frmprogress(QWidget* parent) : Form(parent) {
     setObjectName("frmprogress");
@@ -20,11 +21,16 @@ frmprogress::frmprogress(QWidget* parent) : Form(parent) {
     layout->addWidget(lbcaption);
     setFixedSize(360, 110);
 
-    // Skins belong to the systems of major version 5 only.
+    // Skins belong to the systems of major version 5 only. The engine is
+    // set up here, before any form is loaded, so that every form opens
+    // skinned; a failure it reports leaves the program without skins.
     OsVersionInfo os;
     if (GetOsVersion(os) && (os.code == -1 || os.code == 0)) {
-        QString skinFile = GetIniValue("Skin", "SkinFile", "", AppFile("Setting.ini"));
-        if (!skinFile.isEmpty()) skinPath_ = AppPath() + "/" + skinFile;
+        SkinPath = GetIniValue("Skin", "SkinFile", "", AppFile("Setting.ini"));
+        if (!SkinPath.isEmpty()) {
+            SkinPath = AppPath() + "/" + SkinPath;  // the setting's "\" the engine reads as "/"
+            if (!SetUpSkinEngine()) return;
+        }
         SkinEnabled = true;
     }
 }
@@ -34,4 +40,5 @@ void frmprogress::FormLoad() {
     lbcaption->setText(WithOwnerName(GetLanguageString(536)));
     SetFontSize(lbcaption, LabelFontSize());
     SetFontCharset(lbcaption);
+    if (SkinEnabled && !SkinPath.isEmpty()) ShowSkin(SkinPath);
 }

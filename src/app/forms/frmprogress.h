@@ -1,6 +1,5 @@
 #pragma once
 // The splash form shown while the libraries are copied at start.
-#include <QString>
 #include "platform/forms/modal.h"
 
 class QLabel;
@@ -10,8 +9,6 @@ class frmprogress : public Form {
 public:
     explicit frmprogress(QWidget* parent = nullptr);
     void FormLoad() override;
-    QString skinPath() const { return skinPath_; }
 private:
     QLabel* lbcaption;
-    QString skinPath_;
 };

@@ -31,8 +31,9 @@ void Name(QObject* object, const char* name) { object->setObjectName(Latin1(name
 void FrmMain::BuildCommands() {
     menuBar()->setObjectName("MenuBar");
     QHash<QString, QMenu*> menus;  // menus, pop-ups and drop-downs by name, as they are made
-    auto wire = [this](QAction* action, const char* name) {
-        connect(action, &QAction::triggered, this, [this, name] { RunHandler(name, [&] { RunCommand(*this, name); }); });
+    auto wire = [this](QAction* action, const char* name, int index) {
+        connect(action, &QAction::triggered, this,
+                [this, name, index] { RunHandler(name, [&] { RunCommand(*this, name, index); }); });
     };
     for (const Command& c : Commands()) {
         QMenu* parent = c.parent ? menus.value(Latin1(c.parent)) : nullptr;
@@ -61,7 +62,7 @@ void FrmMain::BuildCommands() {
                 Name(action, c.name);
                 if (c.count > 1) action->setProperty("Index", i);
                 action->setVisible(c.shown);
-                wire(action, c.name);
+                wire(action, c.name, i);
             }
             break;
         case CommandKind::Button: {

@@ -17,6 +17,10 @@ void FindByCompany(FrmMain& window);     // findkeys.cpp
 void DeleteContacts(FrmMain& window);         // deletecontacts.cpp
 void DeleteCheckedContacts(FrmMain& window);  // deletecontacts.cpp
 void ShowDuplicateDialog(FrmMain& window);    // duplicatecontacts.cpp
+void CheckForUpdates(FrmMain& window);   // checkupdates.cpp
+void ShowAbout(FrmMain& window);         // helpabout.cpp
+void ChooseNoSkin(FrmMain& window);      // skinmenu.cpp
+void ChooseSkin(FrmMain& window, int index);  // skinmenu.cpp
 
 namespace {
 using K = CommandKind;
@@ -69,8 +73,9 @@ constexpr Command Hidden(Command c) {
     c.shown = false;
     return c;
 }
-constexpr Command Array(Command c, int count) {
+constexpr Command Array(Command c, int count, IndexedCommandHandler handler = nullptr) {
     c.count = count;
+    c.indexed = handler;
     return c;
 }
 
@@ -101,14 +106,14 @@ const Command kCommands[] = {
     Menu("mnuCategory", kBar, "&Category", L(128)),
     Entry("mnuManageCategory", "mnuCategory", "&Manage Category", L(129)),
     Hidden(Menu("mnuSkin", kBar, "S&kin", kNoString)),
-    Entry("mnuNoSkin", "mnuSkin", "No Skin", kNoString),
+    Entry("mnuNoSkin", "mnuSkin", "No Skin", kNoString, ChooseNoSkin),
     Row(K::Separator, "mnuSeparator1", "mnuSkin", "", kNoString),
-    Array(Entry("mnuSkinList", "mnuSkin", "Skin", kNoString), 10),  // "Skin1" to "Skin10"
+    Array(Entry("mnuSkinList", "mnuSkin", "Skin", kNoString), 10, ChooseSkin),  // "Skin1" to "Skin10"
     Menu("mnuHelp", kBar, "&Help", E(103)),
     Hidden(Entry("mnuHelpWhat", "mnuHelp", "&What is Tandry?", E(104))),  // no action, by design
     Entry("mnuHelpOnline", "mnuHelp", "&Online Support Web Site", E(105), OnlineSupport),
-    Hidden(Entry("mnuHelpUpdates", "mnuHelp", "&Check for Updates", E(106))),
-    Entry("mnuHelpAbout", "mnuHelp", "&About", E(107)),
+    Hidden(Entry("mnuHelpUpdates", "mnuHelp", "&Check for Updates", E(106), CheckForUpdates)),
+    Entry("mnuHelpAbout", "mnuHelp", "&About", E(107), ShowAbout),
 
     // ---- the pop-up menus ----
     Popup("mnuRightClick", "RightClick"),  // over the list
@@ -164,8 +169,9 @@ const Command* FindCommand(const char* name) {
     return nullptr;
 }
 
-void RunCommand(FrmMain& window, const char* name) {
+void RunCommand(FrmMain& window, const char* name, int index) {
     const Command* command = FindCommand(name);
     while (command && command->as) command = FindCommand(command->as);
-    if (command && command->handler) command->handler(window);
+    if (command && command->indexed) command->indexed(window, index);
+    else if (command && command->handler) command->handler(window);
 }

@@ -12,6 +12,8 @@ class FrmMain;
 // What a command runs. It gets the window; a failure it raises ends it and
 // is noted on the error stream (RunHandler).
 using CommandHandler = void (*)(FrmMain& window);
+// What an entry of an array runs: it gets the entry's "Index" as well.
+using IndexedCommandHandler = void (*)(FrmMain& window, int index);
 
 enum class CommandKind {
     Menu,         // a menu of the bar, or a menu inside a menu
@@ -35,6 +37,7 @@ struct Command {
     const char* as = nullptr;          // runs what the command of this name runs
     bool shown = true;                 // false: built, and kept out of sight for good
     int count = 1;                     // more than 1: an array of entries of one name, told apart by "Index"
+    IndexedCommandHandler indexed = nullptr;  // an array's handler, in place of `handler`
     const char* toolTip = nullptr;     // buttons only
     QStyle::StandardPixmap picture = QStyle::SP_CustomBase;  // buttons only
 };
@@ -44,5 +47,5 @@ std::span<const Command> Commands();
 // The row of that name, or none.
 const Command* FindCommand(const char* name);
 // Runs what the named command runs, following its `as`; nothing when it has
-// no handler. A failure passes to the caller.
-void RunCommand(FrmMain& window, const char* name);
+// no handler. `index` is the entry's of an array. A failure passes to the caller.
+void RunCommand(FrmMain& window, const char* name, int index = 0);

@@ -21,6 +21,7 @@
 #include "platform/core/numbers.h"
 #include "platform/core/sysinfo.h"
 #include "platform/forms/pointer.h"
+#include "services/forms/skins.h"
 #include "store/core/failure.h"
 #include "store/core/paths.h"
 #include "store/core/snapshot.h"
@@ -98,6 +99,7 @@ void FrmMain::FormLoad() {
     LoadCategory();
     if (!FolderExists(DataFolder())) MakeFolder(DataFolder());
     ReadLayoutSettings();
+    SkinControls({TreeView1, ListView1});
     if (!IsNTAdmin())
         MsgBox(WithOwnerName(GetEditionString(528)), MsgExclamation, GetLanguageString(300));
 }

@@ -9,6 +9,8 @@
 #include "platform/core/tempfolder.h"
 
 namespace {
+int g_testMajor = 0;
+int g_testMinor = 0;
 
 // The leading decimal digits of `text` from `pos` on; `pos` ends after them.
 int LeadingNumber(const char* text, size_t& pos) {
@@ -39,7 +41,18 @@ int OsVersionCode(int major, int minor, bool ntFamily) {
     }
 }
 
+void SetOsVersionForTest(int major, int minor) {
+    g_testMajor = major;
+    g_testMinor = minor;
+}
+
 bool GetOsVersion(OsVersionInfo& info) {
+    if (g_testMajor != 0) {
+        info.major = g_testMajor;
+        info.minor = g_testMinor;
+        info.code = OsVersionCode(info.major, info.minor, false);
+        return true;
+    }
     struct utsname name;
     if (::uname(&name) != 0) return false;
     // "6.1.0-18-amd64": major 6, minor 1.

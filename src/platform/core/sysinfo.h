@@ -11,6 +11,8 @@ struct OsVersionInfo {
 // codes; true when the version could be read.
 bool GetOsVersion(OsVersionInfo& info);
 int OsVersionCode(int major, int minor, bool ntFamily);
+// ---- for tests: the version GetOsVersion reports until reset with 0, 0 ----
+void SetOsVersionForTest(int major, int minor);
 
 // True when the staging area can be created and written.
 bool IsNTAdmin();
