@@ -23,6 +23,12 @@ public:
     virtual void CopyAddrFile() = 0;
     virtual void DelAddrFile() = 0;
 
+    // ---- what the print dialog reads of the window ----
+    // The country filter's entry at its selected position (empty without one).
+    virtual QString SelectedCountryName() const = 0;
+    // The text of the tree's selected node; a null text when none is selected.
+    virtual QString SelectedNodeText() const = 0;
+
     MainWindowLink(const MainWindowLink&) = delete;
     MainWindowLink& operator=(const MainWindowLink&) = delete;
 };

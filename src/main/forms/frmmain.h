@@ -41,6 +41,8 @@ public:
     void RefreshListView1(const QString& country, const QString& key) override;
     void CopyAddrFile() override;
     void DelAddrFile() override;
+    QString SelectedCountryName() const override;
+    QString SelectedNodeText() const override;
     static QString CategoryNameFromNode(const QString& text);
 
     // ---- controls, by their names ----
