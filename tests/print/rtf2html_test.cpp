@@ -35,6 +35,7 @@ TEST(Rtf2Html, FormatsOpenBeforeTextAndCloseAllAtEveryPiece) {
         {Body("\\ul under\\ulnone  plain"), "<u>under</u> plain"},
         {Body("\\b\\b0 x"), "x"},                         // ended before any text: out of the queue
         {Body("\\b{\\i x}y"), "<b><i>x</i></b>y"},         // a brace ends every format
+        {Body("\\b x}\\i y"), "<b>x</b><b><i>y</i></b>"},   // ... but one before a backslash goes with the text
         {Body("\\b"), "</b>"},                            // queued, never opened, still closed
         // Sizes in half-points: 12 and 17 are the normal size 2; 2 gives 1, which is written.
         {Body("\\fs12 a\\fs17 b\\fs96 c\\fs2 d\\fs24 e"),

@@ -161,6 +161,16 @@ private slots:
         }
     }
 
+    void aMissingRecordPrintsTheContactBeforeItAgain() {
+        PrintStore s;
+        s.open();
+        s.clickNode("Main (3)");
+        s.select({"Bob Ray", "Cleo Dahl"});
+        QVERIFY(QFile::remove(s.store.appFile("data/addr00013.b64")));
+        s.trigger("mnuPrint_p");
+        QCOMPARE(QString(s.store.read(s.page())).count("<bold>Bob Ray<bold>"), 2);
+    }
+
     // A failure before the write keeps the page of the last run and shows
     // nothing; a link planted at the page's name is not followed.
     void failuresEndTheJobInSilence_data() {
