@@ -1,5 +1,6 @@
 #include "platform/forms/printdialog.h"
 
+#include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -9,8 +10,13 @@ PrintDialogAnswer g_answer;
 
 bool ShowPrintDialog(QPrinter& printer, QWidget* parent) {
     if (g_answer) return g_answer(printer);
+    // The dialog is the desktop's own: it shows the normal pointer while the
+    // program's is the hourglass.
+    QApplication::setOverrideCursor(Qt::ArrowCursor);
     QPrintDialog dialog(&printer, parent);
-    return dialog.exec() == QDialog::Accepted;
+    const bool print = dialog.exec() == QDialog::Accepted;
+    QApplication::restoreOverrideCursor();
+    return print;
 }
 
 void SetPrintDialogAnswerForTest(PrintDialogAnswer answer) { g_answer = std::move(answer); }
