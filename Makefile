@@ -1,6 +1,6 @@
 # The two commands: `make run` and `make test`. Both install what is
 # missing (Debian packages, through apt-get), build, and go on.
-PACKAGES := cmake make g++ qt6-base-dev libgtest-dev xvfb xauth fonts-dejavu-core
+PACKAGES := cmake make g++ qt6-base-dev libgtest-dev xvfb xauth fonts-dejavu-core poppler-utils
 BUILD := build
 JOBS := $(shell nproc 2>/dev/null || echo 2)
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)

@@ -95,7 +95,10 @@ private slots:
         s.clickNode("A (1)");
         s.trigger("mnuPrint_p");
         w.ListView1->topLevelItem(0)->setSelected(true);
-        s.trigger("mnuPrint_p");
+        int printDialogs = 0;
+        SetPrintDialogAnswerForTest([&](QPrinter&) { return ++printDialogs, false; });
+        s.trigger("mnuPrint_p");  // a selected row goes on to the print dialog
+        QCOMPARE(printDialogs, 1);
         QCOMPARE(s.boxes.lines(), QStringList({"Tandry|16|No more categories can be added. Tandry keeps at most five "
                                                "categories.",
                                                "Tandry|48|Ada, please select the contacts you want to print."}));

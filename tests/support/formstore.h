@@ -17,6 +17,7 @@
 #include "platform/core/pause.h"
 #include "platform/forms/modal.h"
 #include "platform/forms/popup.h"
+#include "platform/forms/printdialog.h"
 #include "platform/forms/shell.h"
 #include "store/core/genid.h"
 #include "store/core/indexfiles.h"
@@ -53,6 +54,7 @@ struct FormStore {
     ~FormStore() {
         SetPopupHandlerForTest({});
         SetShellHandlerForTest({});
+        SetPrintDialogAnswerForTest({});
         ClearModalScripts();
         UnloadAllLibraries();
         ClearContactBuffer();

@@ -11,6 +11,8 @@ ScratchStore::ScratchStore() {
     QDir().mkpath(app());
     SetAppPathForTest(app());
     SetVellumarkFolderForTest(dir_.path() + "/cache/Vellumark");
+    QDir().mkpath(systemTemp());
+    SetSystemTempPathForTest(systemTemp());
     FailFileOperationAt(0);
     SetAnsiCodePage(1252);
 }
@@ -20,10 +22,12 @@ ScratchStore::~ScratchStore() {
     SetFileOperationLogging(false);
     SetAppPathForTest(QString());
     SetVellumarkFolderForTest(QString());
+    SetSystemTempPathForTest(QString());
 }
 
 QString ScratchStore::app() const { return dir_.path() + "/drive/Tandry"; }
 QString ScratchStore::temp() const { return dir_.path() + "/cache/Vellumark/temp"; }
+QString ScratchStore::systemTemp() const { return dir_.path() + "/tmp"; }
 
 void ScratchStore::write(const QString& path, const QByteArray& bytes) const {
     QFile f(path);

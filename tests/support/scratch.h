@@ -11,6 +11,7 @@ public:
     ~ScratchStore();
     QString app() const;                 // the application folder
     QString temp() const;                // the staging area (…/Vellumark/temp)
+    QString systemTemp() const;          // the system's temporary folder
     QString appFile(const QString& name) const { return app() + "/" + name; }
     QString tempFile(const QString& name) const { return temp() + "/" + name; }
     // Writes bytes as they stand (use "\r\n" for line ends).

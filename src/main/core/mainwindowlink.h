@@ -26,6 +26,12 @@ public:
     // not used), asking about each name clash.
     virtual void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) = 0;
 
+    // ---- what the print dialog reads of the window ----
+    // The country filter's entry at its selected position (empty without one).
+    virtual QString SelectedCountryName() const = 0;
+    // The text of the tree's selected node; a null text when none is selected.
+    virtual QString SelectedNodeText() const = 0;
+
     MainWindowLink(const MainWindowLink&) = delete;
     MainWindowLink& operator=(const MainWindowLink&) = delete;
 };

@@ -50,6 +50,13 @@ QTreeWidgetItem* SelectedNode(const QTreeWidget* tree) {
     return selected.isEmpty() ? nullptr : selected.first();
 }
 
+QString FrmMain::SelectedNodeText() const {
+    const QTreeWidgetItem* node = SelectedNode(TreeView1);
+    return node ? node->text(0) : QString();
+}
+
+QString FrmMain::SelectedCountryName() const { return cmbCountry->itemText(cmbCountry->currentIndex()); }
+
 int NodeCount(const QTreeWidget* tree) {
     int count = 0;
     for (int i = 0; i < tree->topLevelItemCount(); ++i)

@@ -49,6 +49,8 @@ public:
     void CopyAddrFile() override;
     void DelAddrFile() override;
     void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) override;
+    QString SelectedCountryName() const override;
+    QString SelectedNodeText() const override;
     static QString CategoryNameFromNode(const QString& text);
 
     // ---- controls, by their names ----

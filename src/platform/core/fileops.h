@@ -1,7 +1,8 @@
 #pragma once
-// Every file operation of the store passes through here. That makes one
-// seam where a test can make the k-th operation fail, as a pulled drive or a
-// full disk would, and where the order of writes can be watched.
+// Every file operation of the store, and the print page's, passes through
+// here. That makes one seam where a test can make the k-th operation fail, as
+// a pulled drive or a full disk would, and where the order of writes can be
+// watched.
 //
 // No file is opened through a symbolic link: the staging area is a shared
 // place on the local disk, and a planted link must not redirect a write.
@@ -35,6 +36,15 @@ bool WriteWholeFile(const QString& path, const QByteArray& bytes);
 // Writes a new file beside the target and renames it over the target, so
 // that a fault leaves either the old or the new content.
 bool ReplaceFileContent(const QString& path, const QByteArray& bytes);
+
+// A file of the user's own in a folder that other users can write, such as
+// the system's temporary folder, where a fixed name is otherwise a way for
+// another user to have a file of the user's overwritten (a planted symbolic
+// or hard link) or to read what is written. Creates or empties the file and
+// writes the bytes, readable by the user alone (mode 0600); false, with
+// nothing written, when the name is a symbolic link or a file that is not
+// the user's own regular file with one name.
+bool WritePrivateFile(const QString& path, const QByteArray& bytes);
 
 // A sequential output file: opened for output (truncated) or for appending.
 class OutputFile {

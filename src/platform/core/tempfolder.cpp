@@ -7,6 +7,7 @@
 
 namespace {
 QString g_testFolder;
+QString g_testSystemTemp;
 
 // A folder of ours: a real folder (not a link), owned by this user.
 bool UsableFolder(const QString& path) {
@@ -36,9 +37,13 @@ bool EnsureTempArea() {
 }
 
 QString SystemTempPath() {
+    if (!g_testSystemTemp.isEmpty()) return g_testSystemTemp;
     QString tmp = qEnvironmentVariable("TMPDIR");
     if (tmp.isEmpty()) tmp = "/tmp";
     return tmp;
 }
 
+QString GetWindowTemp() { return SystemTempPath() + u'/'; }
+
 void SetVellumarkFolderForTest(const QString& folder) { g_testFolder = folder; }
+void SetSystemTempPathForTest(const QString& folder) { g_testSystemTemp = folder; }

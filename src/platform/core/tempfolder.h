@@ -12,7 +12,10 @@ QString TempFile(const QString& name);     // TempArea() + "/" + name
 // made, or when one of them is not a real folder of this user.
 bool EnsureTempArea();
 
-// The system's temporary folder (GetTempPath).
+// The system's temporary folder (GetTempPath): $TMPDIR, or /tmp.
 QString SystemTempPath();
+// The same with its trailing separator, as GetTempPath gives it.
+QString GetWindowTemp();
 
 void SetVellumarkFolderForTest(const QString& folder);  // empty: default
+void SetSystemTempPathForTest(const QString& folder);   // empty: default

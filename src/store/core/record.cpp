@@ -22,18 +22,17 @@ public:
 private:
     ProfileValues values_;
 };
+}  // namespace
 
-// Reads the keys in the file's order; the country's conversion may fail,
-// and then the rest of the buffer stays as it was.
-bool ReadKeys(const ContactId& contactId, bool idFromFile) {
+RecordRead ReadRecordInto(const ContactId& contactId, InfoIdFrom infoId) {
     const QString path = RecordPath(contactId);
-    if (!FileExists(path)) return false;
+    if (!FileExists(path)) return RecordRead::Missing;
     const RecordKeys Key(path);
     ContactRecord& b = ContactBuffer;
-    b.infoid = idFromFile ? Key("infoid") : contactId;
+    if (infoId != InfoIdFrom::Untouched) b.infoid = infoId == InfoIdFrom::File ? Key("infoid") : contactId;
     b.infoname = Key("infoname");
     b.category = Key("category");
-    if (!TextToInt16(Key("country"), b.country)) return false;
+    if (!TextToInt16(Key("country"), b.country)) return RecordRead::CountryNoNumber;
     b.tel1 = Key("tel1");
     b.ext1 = Key("ext1");
     b.tel2 = Key("tel2");
@@ -45,9 +44,10 @@ bool ReadKeys(const ContactId& contactId, bool idFromFile) {
     b.addr = Key("addr");
     b.notes = Key("notes");
     b.mail = Key("mail");
-    return true;
+    return RecordRead::Read;
 }
 
+namespace {
 QByteArray Lines(const QList<std::pair<const char*, QString>>& pairs) {
     QString text = QStringLiteral("[Setting]\r\n");
     for (const auto& [key, value] : pairs) text += QString::fromLatin1(key) + "=" + value + "\r\n";
@@ -55,8 +55,12 @@ QByteArray Lines(const QList<std::pair<const char*, QString>>& pairs) {
 }
 }  // namespace
 
-bool ReadContact(const ContactId& contactId) { return ReadKeys(contactId, false); }
-bool ReadContactWithId(const ContactId& contactId) { return ReadKeys(contactId, true); }
+bool ReadContact(const ContactId& contactId) {
+    return ReadRecordInto(contactId, InfoIdFrom::Argument) == RecordRead::Read;
+}
+bool ReadContactWithId(const ContactId& contactId) {
+    return ReadRecordInto(contactId, InfoIdFrom::File) == RecordRead::Read;
+}
 
 bool ReadContactSummary(const ContactId& contactId) {
     const QString path = RecordPath(contactId);

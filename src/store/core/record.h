@@ -26,6 +26,15 @@ struct ContactForm {
 };
 
 void ClearContactBuffer();
+
+// Where a read takes infoid from: the argument, the file, or nowhere (the
+// buffer keeps its own).
+enum class InfoIdFrom { Argument, File, Untouched };
+enum class RecordRead { Read, Missing, CountryNoNumber };
+// Reads the record's keys into ContactBuffer in the file's order. A missing
+// file leaves the buffer alone; a country that is no number ends the read
+// with the keys before it read.
+RecordRead ReadRecordInto(const ContactId& contactId, InfoIdFrom infoId);
 bool ReadContact(const ContactId& contactId);          // infoid from the argument
 bool ReadContactWithId(const ContactId& contactId);    // infoid from the file
 bool ReadContactSummary(const ContactId& contactId);   // the list's five keys
