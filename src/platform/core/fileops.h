@@ -36,7 +36,9 @@ bool WriteWholeFile(const QString& path, const QByteArray& bytes);
 // that a fault leaves either the old or the new content.
 bool ReplaceFileContent(const QString& path, const QByteArray& bytes);
 
-// A sequential output file: opened for output (truncated) or for appending.
+// A sequential output file: opened for output (truncated), for appending,
+// or in binary mode (created when missing, kept as it is, written from its
+// first byte on, so that a longer old content keeps its tail).
 class OutputFile {
 public:
     OutputFile() = default;
@@ -45,11 +47,12 @@ public:
     OutputFile& operator=(const OutputFile&) = delete;
     bool openForOutput(const QString& path);
     bool openForAppend(const QString& path);
+    bool openForBinary(const QString& path);
     bool write(const QByteArray& bytes);
     bool close();
     bool isOpen() const { return fd_ >= 0; }
 private:
-    bool open(const QString& path, bool append);
+    bool open(const QString& path, const char* kind, int flags);
     int fd_ = -1;
     QString path_;
 };
