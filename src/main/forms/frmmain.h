@@ -13,6 +13,7 @@
 #include <QRect>
 #include <QString>
 #include "main/core/mainwindowlink.h"
+#include "platform/forms/listviewitem.h"
 #include "platform/forms/modal.h"
 
 class QAction;
@@ -90,9 +91,7 @@ private:
     void VSplitter_Moved(int leftPixels);
 
     bool boolUnloaded = false;
-    int intSortKey = 0;       // the list's sort key: column 1 until a header is clicked
-    bool boolSorted = false;  // the list's Sorted property, set by the first header click
-    Qt::SortOrder intSortOrder = Qt::AscendingOrder;
+    ListViewSort listSort;  // the list's sort settings, kept across refills
 
     // Each placed control's rectangle in twips, as the layout routines set it.
     QHash<QWidget*, QRect> rectTwips;
