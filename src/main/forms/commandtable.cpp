@@ -14,6 +14,7 @@ void NewCategory(FrmMain& window);       // newcategory.cpp
 void FindByName(FrmMain& window);        // findkeys.cpp
 void FindByEmail(FrmMain& window);       // findkeys.cpp
 void FindByCompany(FrmMain& window);     // findkeys.cpp
+void FindContact(FrmMain& window);       // findcontact.cpp
 
 namespace {
 using K = CommandKind;
@@ -80,7 +81,7 @@ const Command kCommands[] = {
     Menu("mnuContact", kBar, "&Contact", L(116)),
     Entry("mnuAdd_info", "mnuContact", "&New Contact", L(117), NewContact),
     Entry("mnuDelete_info", "mnuContact", "&Delete Contact", L(118)),
-    Entry("mnuFind_info", "mnuContact", "&Find Contact", L(119)),
+    Entry("mnuFind_info", "mnuContact", "&Find Contact", L(119), FindContact),
     Menu("mnuSelect", kBar, "&Select", L(151)),
     Entry("mnuSelectAll", "mnuSelect", "&Select All", L(120), SelectAll),
     Entry("mnuInvertSelection", "mnuSelect", "&Invert Selection", L(121), InvertSelection),
