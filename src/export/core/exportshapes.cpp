@@ -15,7 +15,7 @@ const ExportShape kShapes[] = {
      ",,,<NAME>,,<EMAIL>,<HOMESTREET>,,,,,<HOMETEL>,<HOMEFAX>,<MOBILE>,,,,,,,,"
      "<BUSINESSPHONE>,,,<COMPANY>,<JOBTITLE>,,,<COMMENT>"},
     // The header is printed in four pieces without a break between them;
-    // the spelling "Gobernment" is part of the shape.
+    // the spelling "Gobernment" belongs to the shape.
     {631, " (MS Outlook)", ExportFileMode::Text, nullptr,
      "\"Title\",\"First Name\",\"Middle Name\",\"Last Name\",\"Suffix\",\"Company\",\"Department\","
      "\"Job Title\",\"Business Street\",\"Business Street 2\",\"Business Street 3\",\"Business City\","

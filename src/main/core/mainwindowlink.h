@@ -23,6 +23,11 @@ public:
     virtual void CopyAddrFile() = 0;
     virtual void DelAddrFile() = 0;
 
+    // ---- what the export reads of the window's controls ----
+    virtual int ListView1Count() const = 0;          // rows of the contact list
+    virtual QString cmbCountryText() const = 0;      // the country filter's text
+    virtual QString SelectedNodeText() const = 0;    // the tree's selected node; a failure without one
+
     MainWindowLink(const MainWindowLink&) = delete;
     MainWindowLink& operator=(const MainWindowLink&) = delete;
 };

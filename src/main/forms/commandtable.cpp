@@ -15,6 +15,10 @@ void FindByName(FrmMain& window);        // findkeys.cpp
 void FindByEmail(FrmMain& window);       // findkeys.cpp
 void FindByCompany(FrmMain& window);     // findkeys.cpp
 void FindContact(FrmMain& window);       // findcontact.cpp
+void ExportContactsOE(FrmMain& window);          // exportcontacts.cpp
+void ExportContactsMSO(FrmMain& window);         // exportcontacts.cpp
+void ExportContactsYahoo(FrmMain& window);       // exportcontacts.cpp
+void ExportContactsIncredible(FrmMain& window);  // exportcontacts.cpp
 
 namespace {
 using K = CommandKind;
@@ -92,10 +96,10 @@ const Command kCommands[] = {
     Hidden(Entry("mnuYahoo", "mnuImport_add", "&Yahoo!", L(126))),
     Hidden(Entry("mnuImportIncredible", "mnuImport_add", "&Incredible", L(127))),
     Menu("mnuExport_add", "mnuSynchronize", "&Export Contact", L(123)),
-    Entry("mnuExportOE", "mnuExport_add", "&Outlook Express", L(124)),
-    Entry("mnuExportMSO", "mnuExport_add", "&MS Outlook", L(125)),
-    Hidden(Entry("mnuExportYahoo", "mnuExport_add", "&Yahoo!", L(126))),
-    Hidden(Entry("mnuExportIncredible", "mnuExport_add", "&Incredible", L(127))),
+    Entry("mnuExportOE", "mnuExport_add", "&Outlook Express", L(124), ExportContactsOE),
+    Entry("mnuExportMSO", "mnuExport_add", "&MS Outlook", L(125), ExportContactsMSO),
+    Hidden(Entry("mnuExportYahoo", "mnuExport_add", "&Yahoo!", L(126), ExportContactsYahoo)),
+    Hidden(Entry("mnuExportIncredible", "mnuExport_add", "&Incredible", L(127), ExportContactsIncredible)),
     Menu("mnuCategory", kBar, "&Category", L(128)),
     Entry("mnuManageCategory", "mnuCategory", "&Manage Category", L(129)),
     Hidden(Menu("mnuSkin", kBar, "S&kin", kNoString)),

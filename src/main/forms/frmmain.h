@@ -42,6 +42,9 @@ public:
     void RefreshListView1(const QString& country, const QString& key) override;
     void CopyAddrFile() override;
     void DelAddrFile() override;
+    int ListView1Count() const override;
+    QString cmbCountryText() const override;
+    QString SelectedNodeText() const override;
     static QString CategoryNameFromNode(const QString& text);
 
     // ---- controls, by their names ----
