@@ -9,10 +9,9 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
+#include "benchfiles.h"
 #include "export/core/exportrun.h"
 #include "find/core/findcontacts.h"
 #include "platform/core/appfolder.h"
@@ -23,26 +22,6 @@
 namespace {
 constexpr int kContacts = 30000;
 constexpr int kInCategory = 6000;
-
-void WriteFile(const std::string& path, const std::string& bytes) {
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), std::streamsize(bytes.size()));
-}
-
-std::string ReadFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-std::vector<std::string> SplitCrLf(const std::string& text) {
-    std::vector<std::string> lines;
-    size_t start = 0;
-    for (size_t end; (end = text.find("\r\n", start)) != std::string::npos; start = end + 2)
-        lines.push_back(text.substr(start, end - start));
-    return lines;
-}
 
 std::string Lower(std::string s) {
     std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return char(std::tolower(c)); });
@@ -69,17 +48,17 @@ void MakeStore(const std::string& app) {
         cat += "\"" + country + "\",\"" + category + "\",\"" + id + "\"\r\n";
         cty += "\"" + country + "\",\"" + id + "\"\r\n";
         name += "\"" + id + "\",\"Contact " + id + "\"\r\n";
-        WriteFile(app + "/data/addr" + id + ".b64",
+        WriteFile(QString::fromStdString(app + "/data/addr" + id + ".b64"),
                   "[Setting]\r\ninfoid=" + id + "\r\ninfoname=Contact " + id + "\r\ncountry=2\r\ncategory=" + category +
                       "\r\ntel1=+47 22 33 44 55\r\next1=\r\ntel2=+47 23 00 00 00\r\next2=12\r\nmobile=+47 900 00 000\r\n"
                       "fax=\r\ncompany=Fjord AS\r\ndesignation=Skipper\r\naddr=Storgata 1, 0155 Oslo\r\n"
                       "notes=Met at the fair<NextLine>Call in May\r\nmail=C" + id + "@Example.no\r\n");
     }
-    WriteFile(app + "/category.dat", "\"00001\",\"Main\"\r\n\"00002\",\"Work\"\r\n\"00003\",\"Family\"\r\n"
+    WriteFile(QString::fromStdString(app + "/category.dat"), "\"00001\",\"Main\"\r\n\"00002\",\"Work\"\r\n\"00003\",\"Family\"\r\n"
                                      "\"00004\",\"Club\"\r\n\"00005\",\"Shops\"\r\n");
-    WriteFile(app + "/cat.dat", cat);
-    WriteFile(app + "/cty.dat", cty);
-    WriteFile(app + "/name.dat", name);
+    WriteFile(QString::fromStdString(app + "/cat.dat"), cat);
+    WriteFile(QString::fromStdString(app + "/cty.dat"), cty);
+    WriteFile(QString::fromStdString(app + "/name.dat"), name);
 }
 
 template <typename F>
@@ -141,7 +120,7 @@ size_t ExportFloor(const std::string& app, const std::string& snapshot, const st
         }
         out += row + eol;
     }
-    WriteFile(file, out);
+    WriteFile(QString::fromStdString(file), out);
     return out.size();
 }
 }  // namespace

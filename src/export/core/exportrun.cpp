@@ -7,6 +7,7 @@
 #include "platform/core/fileops.h"
 #include "store/core/categories.h"
 #include "store/core/failure.h"
+#include "store/core/indexfiles.h"
 #include "store/core/paths.h"
 #include "store/core/record.h"
 #include "store/core/text.h"
@@ -58,13 +59,10 @@ ExportEnd WriteExportFile(const ExportShape& shape, const QString& path, const s
             LeftOpen().push_back(std::move(file));
             return ExportEnd::Cancelled;
         }
-        const QStringList parts = line.split(u',');
-        const QString country = StripEnds(Element(parts, 0));
-        const QString categoryId = StripEnds(Element(parts, 1));
-        const QString contactId = StripEnds(Element(parts, 2));
-        if (country != ExportCountry || categoryId != ExportCategoryId) continue;
+        const CatLine cat = SplitCatLine(line);
+        if (cat.country != ExportCountry || cat.categoryId != ExportCategoryId) continue;
         // A missing record leaves the buffer with the contact before.
-        FetchExportContact(contactId);
+        FetchExportContact(cat.contactId);
         if (TrimSpaces(ContactBuffer.infoname).isEmpty()) continue;
         const QString row = BuildExportRow(shape) + lineEnd;
         if (text) Put(*file, row);
