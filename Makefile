@@ -37,6 +37,7 @@ test: build
 bench: build
 	$(BUILD)/bench/store_bench
 	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/list_bench
+	$(BUILD)/bench/find_export_bench
 
 clean:
 	rm -rf $(BUILD)

@@ -12,11 +12,10 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <unordered_map>
 #include <vector>
+#include "benchfiles.h"
 #include "main/core/contactrows.h"
 #include "main/forms/frmmain.h"
 #include "platform/core/appfolder.h"
@@ -29,26 +28,6 @@ using Clock = std::chrono::steady_clock;
 namespace {
 constexpr int kListContacts = 5000;
 constexpr int kCatLines = 30000;
-
-void WriteFile(const QString& path, const std::string& bytes) {
-    std::ofstream out(path.toStdString(), std::ios::binary | std::ios::trunc);
-    out.write(bytes.data(), std::streamsize(bytes.size()));
-}
-
-std::string ReadFile(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
-}
-
-std::vector<std::string> SplitCrLf(const std::string& text) {
-    std::vector<std::string> lines;
-    size_t start = 0;
-    for (size_t end; (end = text.find("\r\n", start)) != std::string::npos; start = end + 2)
-        lines.push_back(text.substr(start, end - start));
-    return lines;
-}
 
 // The three quoted fields of a cat.dat line.
 void Fields(const std::string& line, std::string& country, std::string& category, std::string& id) {

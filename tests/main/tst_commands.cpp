@@ -71,6 +71,7 @@ private slots:
         MainStore s(kCategories, kCat);
         FrmMain& w = s.open();
         w.FindKey = 7;
+        for (int i = 0; i < 5; ++i) ExpectModal([](Form*) {});  // the find dialog, opened and closed
         QTest::mouseClick(w.Toolbar1->findChild<QToolButton*>("find"), Qt::LeftButton, {}, QPoint(4, 4));
         s.trigger("mnuFind_info");
         QString keys = QString::number(w.FindKey);
@@ -79,6 +80,7 @@ private slots:
             keys += QString::number(w.FindKey);
         }
         QCOMPARE(keys, QString("7321"));
+        QCOMPARE(PendingModalScripts(), 0);
     }
 
     void newCategoryAndPrintRefusals() {

@@ -1,6 +1,7 @@
 #include "main/core/contactrows.h"
 
 #include "store/core/failure.h"
+#include "store/core/indexfiles.h"
 #include "store/core/record.h"
 #include "store/core/text.h"
 
@@ -9,15 +10,12 @@ bool ContactRowsFromLines(const QStringList& lines, const QString& country,
     if (lines.size() > kMaxListLines) return false;
     try {
         for (const QString& line : lines) {
-            const QStringList parts = line.split(u',');
-            const QString rowCountry = StripEnds(Element(parts, 0));
-            const QString rowCategory = StripEnds(Element(parts, 1));
-            const QString contactId = StripEnds(Element(parts, 2));
-            if (rowCountry != country || rowCategory != categoryId) continue;
-            ReadContactSummary(contactId);
+            const CatLine row = SplitCatLine(line);
+            if (row.country != country || row.categoryId != categoryId) continue;
+            ReadContactSummary(row.contactId);
             if (TrimSpaces(ContactBuffer.infoname).isEmpty()) continue;
             rows.append({ContactBuffer.infoname, ContactBuffer.mail, ContactBuffer.company,
-                         ContactBuffer.designation, contactId});
+                         ContactBuffer.designation, row.contactId});
         }
     } catch (const RoutineFailure&) {
         return false;

@@ -26,11 +26,13 @@ public:
     // not used), asking about each name clash.
     virtual void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) = 0;
 
-    // ---- what the print dialog reads of the window ----
+    // ---- what the print dialog and the export read of the window's controls ----
     // The country filter's entry at its selected position (empty without one).
     virtual QString SelectedCountryName() const = 0;
     // The text of the tree's selected node; a null text when none is selected.
     virtual QString SelectedNodeText() const = 0;
+    virtual int ListView1Count() const = 0;      // rows of the contact list
+    virtual QString cmbCountryText() const = 0;  // the country filter's text
 
     MainWindowLink(const MainWindowLink&) = delete;
     MainWindowLink& operator=(const MainWindowLink&) = delete;

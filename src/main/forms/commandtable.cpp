@@ -21,6 +21,11 @@ void CheckForUpdates(FrmMain& window);   // checkupdates.cpp
 void ShowAbout(FrmMain& window);         // helpabout.cpp
 void ChooseNoSkin(FrmMain& window);      // skinmenu.cpp
 void ChooseSkin(FrmMain& window, int index);  // skinmenu.cpp
+void FindContact(FrmMain& window);       // findcontact.cpp
+void ExportContactsOE(FrmMain& window);          // exportcontacts.cpp
+void ExportContactsMSO(FrmMain& window);         // exportcontacts.cpp
+void ExportContactsYahoo(FrmMain& window);       // exportcontacts.cpp
+void ExportContactsIncredible(FrmMain& window);  // exportcontacts.cpp
 
 namespace {
 using K = CommandKind;
@@ -88,7 +93,7 @@ const Command kCommands[] = {
     Menu("mnuContact", kBar, "&Contact", L(116)),
     Entry("mnuAdd_info", "mnuContact", "&New Contact", L(117), NewContact),
     Entry("mnuDelete_info", "mnuContact", "&Delete Contact", L(118), DeleteContacts),
-    Entry("mnuFind_info", "mnuContact", "&Find Contact", L(119)),
+    Entry("mnuFind_info", "mnuContact", "&Find Contact", L(119), FindContact),
     Menu("mnuSelect", kBar, "&Select", L(151)),
     Entry("mnuSelectAll", "mnuSelect", "&Select All", L(120), SelectAll),
     Entry("mnuInvertSelection", "mnuSelect", "&Invert Selection", L(121), InvertSelection),
@@ -99,10 +104,10 @@ const Command kCommands[] = {
     Hidden(Entry("mnuYahoo", "mnuImport_add", "&Yahoo!", L(126))),
     Hidden(Entry("mnuImportIncredible", "mnuImport_add", "&Incredible", L(127))),
     Menu("mnuExport_add", "mnuSynchronize", "&Export Contact", L(123)),
-    Entry("mnuExportOE", "mnuExport_add", "&Outlook Express", L(124)),
-    Entry("mnuExportMSO", "mnuExport_add", "&MS Outlook", L(125)),
-    Hidden(Entry("mnuExportYahoo", "mnuExport_add", "&Yahoo!", L(126))),
-    Hidden(Entry("mnuExportIncredible", "mnuExport_add", "&Incredible", L(127))),
+    Entry("mnuExportOE", "mnuExport_add", "&Outlook Express", L(124), ExportContactsOE),
+    Entry("mnuExportMSO", "mnuExport_add", "&MS Outlook", L(125), ExportContactsMSO),
+    Hidden(Entry("mnuExportYahoo", "mnuExport_add", "&Yahoo!", L(126), ExportContactsYahoo)),
+    Hidden(Entry("mnuExportIncredible", "mnuExport_add", "&Incredible", L(127), ExportContactsIncredible)),
     Menu("mnuCategory", kBar, "&Category", L(128)),
     Entry("mnuManageCategory", "mnuCategory", "&Manage Category", L(129)),
     Hidden(Menu("mnuSkin", kBar, "S&kin", kNoString)),

@@ -6,6 +6,7 @@
 #include "main/forms/editcontact.h"
 #include "main/forms/frmmain.h"
 #include "main/forms/treeitems.h"
+#include "platform/forms/listviewitem.h"
 #include "platform/forms/pointer.h"
 #include "platform/forms/popup.h"
 #include "store/core/paths.h"
@@ -13,18 +14,8 @@
 #include "store/core/wholefile.h"
 
 namespace {
-// A row of the list; the list sorts its rows as text, without regard to case.
-class ContactRowItem : public QTreeWidgetItem {
-public:
-    using QTreeWidgetItem::QTreeWidgetItem;
-    bool operator<(const QTreeWidgetItem& other) const override {
-        const int column = treeWidget() ? treeWidget()->sortColumn() : 0;
-        return QString::compare(text(column), other.text(column), Qt::CaseInsensitive) < 0;
-    }
-};
-
 QTreeWidgetItem* MakeRow(const ContactRow& row) {
-    auto* item = new ContactRowItem(
+    auto* item = new ListViewItem(
         QStringList{row.name, row.mail, row.company, row.designation, row.contactId});
     item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
     item->setCheckState(0, Qt::Unchecked);
@@ -59,24 +50,14 @@ void FrmMain::ListContacts(const QString& country, const QString& key) {
         for (const ContactRow& row : rows) items.append(MakeRow(row));
         ListView1->addTopLevelItems(items);
         // A sort once set stays on across refills.
-        if (boolSorted) ListView1->sortItems(intSortKey, intSortOrder);
+        listSort.Apply(ListView1);
     }
     SetScreenPointer(0);
 }
 
 // A click on the header sorts by that column; a second click on the same
-// column turns the order round. The sort key starts at the first column, so
-// the very first click on "Contact Name" sorts it descending.
-void FrmMain::ListView1_ColumnClick(int column) {
-    if (intSortKey != column) {
-        intSortKey = column;
-        intSortOrder = Qt::AscendingOrder;
-    } else {
-        intSortOrder = intSortOrder == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
-    }
-    boolSorted = true;
-    ListView1->sortItems(intSortKey, intSortOrder);
-}
+// column turns the order round.
+void FrmMain::ListView1_ColumnClick(int column) { listSort.ColumnClick(ListView1, column); }
 
 // Edit is offered only for exactly one selected row; the pop-up opens with
 // any number of rows, none included.

@@ -13,6 +13,7 @@
 #include "app/core/libraries.h"
 #include "app/core/placeholders.h"
 #include "app/forms/captionrule.h"
+#include "main/forms/treeitems.h"
 #include "main/forms/twips.h"
 #include "main/forms/vsplitter.h"
 #include "platform/core/appfolder.h"
@@ -157,6 +158,9 @@ void FrmMain::WriteLayoutSettings() {
 
 void FrmMain::CopyAddrFile() { ::CopyAddrFile(); }
 void FrmMain::DelAddrFile() { ::DelAddrFile(); }
+
+int FrmMain::ListView1Count() const { return ListView1->topLevelItemCount(); }
+QString FrmMain::cmbCountryText() const { return cmbCountry->currentText(); }
 
 // Shut-down: the layout, the snapshots, the libraries, the other forms.
 void FrmMain::FormUnload() {

@@ -14,6 +14,7 @@
 #include <QString>
 #include "main/core/clashes.h"
 #include "main/core/mainwindowlink.h"
+#include "platform/forms/listviewitem.h"
 #include "platform/forms/modal.h"
 
 class QAction;
@@ -50,6 +51,8 @@ public:
     void DelAddrFile() override;
     void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) override;
     QString SelectedCountryName() const override;
+    int ListView1Count() const override;
+    QString cmbCountryText() const override;
     QString SelectedNodeText() const override;
     static QString CategoryNameFromNode(const QString& text);
 
@@ -100,9 +103,7 @@ private:
     void VSplitter_Moved(int leftPixels);
 
     bool boolUnloaded = false;
-    int intSortKey = 0;       // the list's sort key: column 1 until a header is clicked
-    bool boolSorted = false;  // the list's Sorted property, set by the first header click
-    Qt::SortOrder intSortOrder = Qt::AscendingOrder;
+    ListViewSort listSort;  // the list's sort settings, kept across refills
 
     // Each placed control's rectangle in twips, as the layout routines set it.
     QHash<QWidget*, QRect> rectTwips;

@@ -210,17 +210,18 @@ OutputFile::~OutputFile() {
     if (fd_ >= 0) ::close(fd_);
 }
 
-bool OutputFile::open(const QString& path, bool append) {
+bool OutputFile::open(const QString& path, const char* kind, int flags) {
     if (fd_ >= 0) return false;
-    if (!Step(append ? "append" : "output", path)) return false;
-    Log(append ? "append" : "output", path);
-    fd_ = OpenForWriting(path, append ? O_APPEND : O_TRUNC);
+    if (!Step(kind, path)) return false;
+    Log(kind, path);
+    fd_ = OpenForWriting(path, flags);
     path_ = path;
     return fd_ >= 0;
 }
 
-bool OutputFile::openForOutput(const QString& path) { return open(path, false); }
-bool OutputFile::openForAppend(const QString& path) { return open(path, true); }
+bool OutputFile::openForOutput(const QString& path) { return open(path, "output", O_TRUNC); }
+bool OutputFile::openForAppend(const QString& path) { return open(path, "append", O_APPEND); }
+bool OutputFile::openForBinary(const QString& path) { return open(path, "binary", 0); }
 
 bool OutputFile::write(const QByteArray& bytes) {
     if (fd_ < 0) return false;

@@ -46,7 +46,9 @@ bool ReplaceFileContent(const QString& path, const QByteArray& bytes);
 // the user's own regular file with one name.
 bool WritePrivateFile(const QString& path, const QByteArray& bytes);
 
-// A sequential output file: opened for output (truncated) or for appending.
+// A sequential output file: opened for output (truncated), for appending,
+// or in binary mode (created when missing, kept as it is, written from its
+// first byte on, so that a longer old content keeps its tail).
 class OutputFile {
 public:
     OutputFile() = default;
@@ -55,11 +57,12 @@ public:
     OutputFile& operator=(const OutputFile&) = delete;
     bool openForOutput(const QString& path);
     bool openForAppend(const QString& path);
+    bool openForBinary(const QString& path);
     bool write(const QByteArray& bytes);
     bool close();
     bool isOpen() const { return fd_ >= 0; }
 private:
-    bool open(const QString& path, bool append);
+    bool open(const QString& path, const char* kind, int flags);
     int fd_ = -1;
     QString path_;
 };

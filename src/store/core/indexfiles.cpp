@@ -6,6 +6,7 @@
 #include "platform/core/fileops.h"
 #include "store/core/formatted.h"
 #include "store/core/paths.h"
+#include "store/core/text.h"
 
 namespace {
 bool g_fileNumberOpen[3] = {false, false, false};
@@ -136,6 +137,11 @@ bool RemoveCtyLine(const ContactId& contactId) {
 
 bool RemoveNameLine(const ContactId& contactId) {
     return Stream("name", 2, RemoveWhere(0, contactId, 2), PastEnd::EndsFile);
+}
+
+CatLine SplitCatLine(const QString& line) {
+    const QStringList parts = line.split(u',');
+    return {StripEnds(Element(parts, 0)), StripEnds(Element(parts, 1)), StripEnds(Element(parts, 2))};
 }
 
 NameLine SplitNameLine(const QString& line) {

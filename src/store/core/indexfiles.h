@@ -33,6 +33,16 @@ bool RemoveCtyLine(const ContactId& contactId);
 // file; the other streaming routines fail on it.
 bool RemoveNameLine(const ContactId& contactId);
 
+// A cat.dat line as the lists read it: split at every comma, the first
+// three elements stripped of their ends. A country that holds a comma
+// shifts the fields; a line of fewer than three is a failure (RoutineFailure).
+struct CatLine {
+    QString country;
+    CategoryId categoryId;
+    ContactId contactId;
+};
+CatLine SplitCatLine(const QString& line);
+
 // A name.dat line split at the three characters "," : id and name, with
 // every double quote removed; a line that doesn't split in two gives the id
 // and an empty name.

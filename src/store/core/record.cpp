@@ -62,16 +62,35 @@ bool ReadContactWithId(const ContactId& contactId) {
     return ReadRecordInto(contactId, InfoIdFrom::File) == RecordRead::Read;
 }
 
-bool ReadContactSummary(const ContactId& contactId) {
+namespace {
+// The text keys of a record and the buffer's field for each.
+struct TextKey {
+    const char* key;
+    QString ContactRecord::*field;
+};
+constexpr TextKey kTextKeys[] = {
+    {"infoid", &ContactRecord::infoid},     {"infoname", &ContactRecord::infoname},
+    {"category", &ContactRecord::category}, {"tel1", &ContactRecord::tel1},
+    {"ext1", &ContactRecord::ext1},         {"tel2", &ContactRecord::tel2},
+    {"ext2", &ContactRecord::ext2},         {"mobile", &ContactRecord::mobile},
+    {"fax", &ContactRecord::fax},           {"company", &ContactRecord::company},
+    {"designation", &ContactRecord::designation}, {"addr", &ContactRecord::addr},
+    {"notes", &ContactRecord::notes},       {"mail", &ContactRecord::mail},
+};
+}  // namespace
+
+bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const char*> keys) {
     const QString path = RecordPath(contactId);
     if (!FileExists(path)) return false;
     const RecordKeys Key(path);
-    ContactBuffer.infoname = Key("infoname");
-    ContactBuffer.mail = Key("mail");
-    ContactBuffer.category = Key("category");
-    ContactBuffer.company = Key("company");
-    ContactBuffer.designation = Key("designation");
+    for (const char* key : keys)
+        for (const TextKey& k : kTextKeys)
+            if (qstrcmp(k.key, key) == 0) ContactBuffer.*k.field = Key(key);
     return true;
+}
+
+bool ReadContactSummary(const ContactId& contactId) {
+    return ReadContactKeys(contactId, {"infoname", "mail", "category", "company", "designation"});
 }
 
 QString EncodeFieldText(const QString& text) {

@@ -2,6 +2,7 @@
 // A contact's record file, data/addr<id>.b64: "[Setting]" and one key=value
 // line per field, in a fixed order. Despite the name nothing in it is
 // base-64: it is plain text in the code page, read key by key.
+#include <initializer_list>
 #include <QString>
 #include "store/core/ids.h"
 
@@ -38,6 +39,9 @@ RecordRead ReadRecordInto(const ContactId& contactId, InfoIdFrom infoId);
 bool ReadContact(const ContactId& contactId);          // infoid from the argument
 bool ReadContactWithId(const ContactId& contactId);    // infoid from the file
 bool ReadContactSummary(const ContactId& contactId);   // the list's five keys
+// The named text keys alone, each into its field of the buffer; the others
+// stay as they were. False, and nothing read, when the file is missing.
+bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const char*> keys);
 
 // Trim spaces, CR LF -> "<NextLine>", " -> "".
 QString EncodeFieldText(const QString& text);

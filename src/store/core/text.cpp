@@ -11,11 +11,11 @@ QString TrimSpaces(const QString& text) {
 
 QString StripEnds(const QString& text) {
     if (text.isEmpty()) return text;
-    if (text.size() == 1) throw RoutineFailure("StripEnds: one character");
+    if (text.size() == 1) throw RoutineFailure("Invalid procedure call or argument");
     return text.mid(1, text.size() - 2);
 }
 
 const QString& Element(const QStringList& parts, int i) {
-    if (i < 0 || i >= parts.size()) throw RoutineFailure("line with too few fields");
+    if (i < 0 || i >= parts.size()) throw RoutineFailure("Subscript out of range");
     return parts[i];
 }

@@ -1,5 +1,7 @@
 #pragma once
-// Text helpers of the store.
+// Text helpers of the store. Their failures carry the run time's words,
+// which a dialog that shows "Error: " and the description puts in front of
+// the user.
 #include <QString>
 #include <QStringList>
 
