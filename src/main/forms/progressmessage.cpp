@@ -31,6 +31,7 @@ const Design& DesignOf(BatchKind kind) { return kDesigns[int(kind)]; }
 ProgressMessage::ProgressMessage(BatchKind kind, QWidget* owner) : Form(owner), kind_(kind) {
     setObjectName(DesignOf(kind).name);
     setModal(false);
+    setMinimumWidth(320);
     Label1 = new QLabel(this);
     Label1->setObjectName("Label1");
     Label1->setWordWrap(true);
