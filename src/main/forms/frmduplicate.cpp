@@ -5,14 +5,13 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include "app/core/inifile.h"
 #include "app/core/libraries.h"
 #include "app/core/placeholders.h"
 #include "app/forms/captionrule.h"
+#include "dialogs/forms/countrychoice.h"
 #include "dialogs/forms/itemcombo.h"
 #include "main/core/mainwindowlink.h"
 #include "platform/core/msgbox.h"
-#include "platform/core/numbers.h"
 #include "store/core/categories.h"
 #include "store/core/text.h"
 
@@ -50,7 +49,6 @@ frmDuplicate::frmDuplicate(QWidget* parent) : Form(parent) {
     grid->addWidget(cmdCancel, 3, 2);
     grid->setColumnStretch(1, 1);
 
-    connect(Check1, &QCheckBox::toggled, cmbCountry2, &QWidget::setEnabled);
     connect(cmdDuplicate, &QPushButton::clicked, this, &frmDuplicate::cmdDuplicate_Click);
     connect(cmdCancel, &QPushButton::clicked, this, &Form::Unload);
 }
@@ -62,17 +60,11 @@ void frmDuplicate::FormLoad() {
     lblCountry->setText(GetLanguageString(508));
     cmdDuplicate->setText(GetLanguageString(135));
     cmdCancel->setText(GetLanguageString(101));
-    // The country list as the main window's filter, on the stored country.
-    cmbCountry2->addItems(CountryNames());
-    qint16 country = 0;
-    TextToInt16(GetIniValue("Setting", "Country", "0", SettingFile()), country);
-    cmbCountry2->setCurrentIndex(country);
+    FillCountryChoice(cmbCountry2, Check1);
     QStringList items;
     CategoryComboItems(items);
     cmbCat->addItemTexts(items);
     cmbCat->setCurrentIndex(items.isEmpty() ? -1 : 0);
-    Check1->setChecked(false);
-    cmbCountry2->setEnabled(false);
     ApplyCaptionRule(this);  // ends with the 200 milliseconds' wait
 }
 
