@@ -12,6 +12,7 @@
 #include <QMainWindow>
 #include <QRect>
 #include <QString>
+#include "main/core/categorycounts.h"
 #include "main/core/clashes.h"
 #include "main/core/mainwindowlink.h"
 #include "platform/forms/modal.h"
@@ -49,6 +50,9 @@ public:
     void CopyAddrFile() override;
     void DelAddrFile() override;
     void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) override;
+    void LoadFrmDuplicateCat() override;
+    QString SelectedNodeText() const override;
+    void RebuildTreeWithoutCounts() override;
     static QString CategoryNameFromNode(const QString& text);
 
     // ---- controls, by their names ----
@@ -87,6 +91,8 @@ private:
     void WriteLayoutSettings();
     void FormUnload();
     void ListContacts(const QString& country, const QString& key);
+    QTreeWidgetItem* AddRootNode();
+    void AddCategoryNodes(QTreeWidgetItem* root, QList<CategoryNode> nodes);
 
     // Events.
     void TreeView1_NodeClick();
