@@ -67,6 +67,7 @@ void frmDuplicateCat::FormLoad() {
     cmdCancel->setText(GetLanguageString(101));
     FillCountryChoice(cmbCountry2, Check1);
     ApplyCaptionRule(this);
+    // It holds no list or tree to hand to the skin engine.
 }
 
 void frmDuplicateCat::cmdDuplicate_Click() {
