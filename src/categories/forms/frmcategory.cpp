@@ -67,6 +67,8 @@ frmcategory::frmcategory(QWidget* parent) : Form(parent) {
     ListView1->setColumnCount(3);
     ListView1->setHeaderLabels({"No.", "ID", "Category Name"});
     ListView1->header()->setSectionsClickable(true);
+    ListView1->setColumnWidth(0, 50);
+    ListView1->setColumnWidth(1, 70);
     auto* grid = new QGridLayout(this);
     grid->addWidget(ListView1, 0, 0, 5, 1);
     int row = 0;

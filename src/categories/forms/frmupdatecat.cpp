@@ -27,10 +27,10 @@ frmupdatecat::frmupdatecat(QWidget* parent) : Form(parent) {
 
     auto* grid = new QGridLayout(this);
     grid->addWidget(lbcategory, 0, 0);
-    grid->addWidget(txtname, 0, 1, 1, 2);
-    grid->addWidget(cmdSave, 1, 1);
-    grid->addWidget(cmdClose, 1, 2);
-    grid->setColumnStretch(0, 1);
+    grid->addWidget(txtname, 0, 1, 1, 3);
+    grid->addWidget(cmdSave, 1, 2);
+    grid->addWidget(cmdClose, 1, 3);
+    grid->setColumnStretch(1, 1);
     setMinimumWidth(360);
 
     connect(cmdSave, &QPushButton::clicked, this, [this] { RunHandler("cmdSave", [this] { cmdSave_Click(); }); });
