@@ -2,15 +2,11 @@
 // Duplicate a category: asks for the name of a new category and a country,
 // creates the category, and hands the outcome to the main window, which
 // copies the contacts of the selected category into it.
-#include "platform/forms/modal.h"
+#include "dialogs/forms/duplicateform.h"
 
-class QCheckBox;
-class QComboBox;
-class QLabel;
 class QLineEdit;
-class QPushButton;
 
-class frmDuplicateCat : public Form {
+class frmDuplicateCat : public DuplicateForm {
     Q_OBJECT
 public:
     explicit frmDuplicateCat(QWidget* parent = nullptr);
@@ -23,14 +19,7 @@ public:
     QString strCountryIndex;  // its list position, as text
     bool boolConfirmed = false;
 
-    QLabel* lblDescription;
-    QLabel* lblCategory;
     QLineEdit* txtCategory;  // starts with message 530
-    QCheckBox* Check1;       // enables the country
-    QLabel* lblCountry;
-    QComboBox* cmbCountry2;
-    QPushButton* cmdDuplicate;
-    QPushButton* cmdCancel;
 
 private:
     void cmdDuplicate_Click();
