@@ -16,24 +16,24 @@ const char* const kCategories =
 // Main: Åse and Per in Norway, Liv in Sweden; Work: Kari in Norway.
 const char* const kRows[][4] = {{"Norway", "00001", "00011", "Åse"}, {"Norway", "00001", "00012", "Per"},
                                 {"Sweden", "00001", "00013", "Liv"}, {"Norway", "00002", "00021", "Kari"}};
+const char* const kIndexes[] = {"cat.dat", "cty.dat", "name.dat"};
 
 struct CategoryStore : MainStore {
-    QByteArray indexes[3];  // cat.dat, cty.dat, name.dat as laid
+    QList<QByteArray> lines[3];  // each contact's line of cat.dat, cty.dat and name.dat, as laid
     explicit CategoryStore(const char* categories = kCategories) : MainStore(categories, "") {
         for (const auto& r : kRows) {
-            indexes[0] += Cp1252(qPrintable(QString("\"%1\",\"%2\",\"%3\"\r\n").arg(U(r[0]), r[1], r[2])));
-            indexes[1] += Cp1252(qPrintable(QString("\"%1\",\"%2\"\r\n").arg(U(r[0]), r[2])));
-            indexes[2] += Cp1252(qPrintable(QString("\"%1\",\"%2\"\r\n").arg(r[2], U(r[3]))));
+            const QString line[3] = {QString("\"%1\",\"%2\",\"%3\"\r\n").arg(U(r[0]), r[1], r[2]),
+                                     QString("\"%1\",\"%2\"\r\n").arg(U(r[0]), r[2]), QString("\"%1\",\"%2\"\r\n").arg(r[2], U(r[3]))};
+            for (int i = 0; i < 3; ++i) lines[i] << Cp1252(qPrintable(line[i]));
             store.putRecord({r[2], U(r[3]), QString::number(CountryIndex(r[0])), r[1]});
         }
-        store.put("cat.dat", indexes[0]);
-        store.put("cty.dat", indexes[1]);
-        store.put("name.dat", indexes[2]);
+        for (int i = 0; i < 3; ++i) store.put(kIndexes[i], lines[i].join());
         open();
     }
+    // Index file i as the lines of `rows`, then `added`.
     QByteArray index(int i, std::initializer_list<int> rows, const char* added = "") const {
         QByteArray bytes;
-        for (int r : rows) bytes += indexes[i].split('\n')[r] + '\n';
+        for (int r : rows) bytes += lines[i][r];
         return bytes + Cp1252(added);
     }
 };
@@ -46,8 +46,8 @@ void Save(Form* dialog, const char* name) {
 }
 QStringList ListRows(const QTreeWidget* list) {
     QStringList rows;
-    for (int i = 0; i < list->topLevelItemCount(); ++i)
-        rows << list->topLevelItem(i)->text(0) + "|" + list->topLevelItem(i)->text(1) + "|" + list->topLevelItem(i)->text(2);
+    for (QTreeWidgetItem* row = list->topLevelItem(0); row; row = list->itemBelow(row))
+        rows << row->text(0) + "|" + row->text(1) + "|" + row->text(2);
     return rows;
 }
 }  // namespace
@@ -85,9 +85,8 @@ private slots:
                                                       "\"23118\",\"Ny\"\r\n"));
         QCOMPARE(treeAtClose, QStringList({"Category", "Kafé", "Main", "Ny", "Work"}));  // no counts until the refresh
         QCOMPARE(s.nodeTexts(), QStringList({"Category", "Kafé", "Main (2)", "Ny", "Work (1)"}));
-        QCOMPARE(s.boxes.lines(), QStringList({"Tandry|48|A category of this name already exists. Please choose another name.",
-                                               "Tandry|16|No more categories can be added. Tandry keeps at most five categories.",
-                                               "Tandry|48|A category of this name already exists. Please choose another name.",
+        const QString exists = "Tandry|48|A category of this name already exists. Please choose another name.";
+        QCOMPARE(s.boxes.lines(), QStringList({exists, "Tandry|16|No more categories can be added. Tandry keeps at most five categories.", exists,
                                                "Tandry|16|This category still holds contacts and cannot be deleted.",
                                                "Delete Category|32|Are you sure you want to delete this category?"}));
         QVERIFY(s.boxes.last().secondDefault);
@@ -95,45 +94,32 @@ private slots:
         QCOMPARE(s.store.tempFiles().size(), 6);  // and the four library copies
     }
 
-    // Each command on a node: the boxes it shows, and category.dat after it.
-    void treeCommands_data() {
-        QTest::addColumn<QString>("node");
-        QTest::addColumn<QString>("command");
-        QTest::addColumn<QStringList>("boxes");
-        QTest::addColumn<QString>("categories");
-        const QString all = U(kCategories) + "\"00005\",\"Null (0)\"\r\n";
-        QTest::newRow("delete root") << "Category" << "mnuDeleteCategory"
-            << QStringList("Tandry|48|Ada, please select a category in the tree, not the top entry.") << all;
-        QTest::newRow("delete in use") << "Main (2)" << "deleteCategory"
-            << QStringList("Tandry|48|Ada, this category cannot be deleted because it still holds these contacts:\r\n"
-                           "Åse ,Per ,Liv\r\nPlease delete or move these contacts first.") << all;
-        QTest::newRow("delete") << "Tom" << "mnuDeleteCategory"
-            << QStringList("Delete Category|0|Are you sure you want to delete the category\r\n\"Tom\"?")
-            << QString(all).remove("\"00004\",\"Tom\"\r\n");
-        QTest::newRow("duplicate bare name") << "Tom" << "mnuDuplicateCategory" << QStringList() << all;
-        QTest::newRow("duplicate 0 after (") << "Null (0)" << "mnuDuplicateCategory"
-            << QStringList("Tandry|48|This category has no contacts in the country selected.\r\n"
-                           "Please choose another category to duplicate.") << all;
-        QTest::newRow("toolbar duplicate bare name") << "Tom" << "duplicateCategory"
-            << QStringList("Tandry|0|Category:\r\nTom\r\nThis category has no contacts in the country selected, Ada.") << all;
-        QTest::newRow("toolbar duplicate root") << "Category" << "duplicateCategory"
-            << QStringList("Tandry|48|Ada, please choose a category first.") << all;
-        QTest::newRow("empty without count") << "Tom" << "mnuEmptyCategory"
-            << QStringList("Tandry|48|Category:\r\n\"Tom\"\r\nThis category holds no contacts in the country selected, Ada.")
-            << all;
-    }
+    // Each command on a node: the box it shows (a question is answered Yes),
+    // and category.dat after it: only the deletion of Tom changes it.
     void treeCommands() {
-        QFETCH(QString, node);
-        QFETCH(QString, command);
-        QFETCH(QStringList, boxes);
-        QFETCH(QString, categories);
-        CategoryStore s(qPrintable(U(kCategories) + "\"00005\",\"Null (0)\"\r\n"));
-        s.clickNode(node);
-        if (boxes.value(0).contains("Are you sure")) s.boxes.answer(AnswerYes);
-        s.trigger(qPrintable(command));
-        QCOMPARE(s.boxes.lines(), boxes);
-        QCOMPARE(s.store.file("category.dat"), Cp1252(qPrintable(categories)));
-        QCOMPARE(s.store.file("cat.dat"), s.indexes[0]);
+        const char* const rows[][3] = {
+            {"Category", "mnuDeleteCategory", "Tandry|48|Ada, please select a category in the tree, not the top entry."},
+            {"Main (2)", "deleteCategory", "Tandry|48|Ada, this category cannot be deleted because it still holds these "
+                                           "contacts:\r\nÅse ,Per ,Liv\r\nPlease delete or move these contacts first."},
+            {"Tom", "mnuDeleteCategory", "Delete Category|0|Are you sure you want to delete the category\r\n\"Tom\"?"},
+            {"Tom", "mnuDuplicateCategory", ""},  // a letter behind no "(": nothing at all
+            {"Null (0)", "mnuDuplicateCategory", "Tandry|48|This category has no contacts in the country selected.\r\n"
+                                                 "Please choose another category to duplicate."},
+            {"Tom", "duplicateCategory", "Tandry|0|Category:\r\nTom\r\nThis category has no contacts in the country selected, Ada."},
+            {"Category", "duplicateCategory", "Tandry|48|Ada, please choose a category first."},
+            {"Tom", "mnuEmptyCategory", "Tandry|48|Category:\r\n\"Tom\"\r\nThis category holds no contacts in the country "
+                                        "selected, Ada."}};
+        const QString list = U(kCategories) + "\"00005\",\"Null (0)\"\r\n";
+        for (const auto& row : rows) {
+            CategoryStore s(qPrintable(list));
+            s.clickNode(U(row[0]));
+            const QString box = U(row[2]);
+            if (box.contains("Are you sure")) s.boxes.answer(AnswerYes);
+            s.trigger(row[1]);
+            QCOMPARE(s.boxes.lines(), box.isEmpty() ? QStringList() : QStringList(box));
+            const QString after = box.contains("Are you sure") ? QString(list).remove("\"00004\",\"Tom\"\r\n") : list;
+            QCOMPARE(s.store.file("category.dat"), Cp1252(qPrintable(after)));
+        }
     }
 
     void renameTakesTheTaskFromTheMainWindow() {
@@ -164,9 +150,7 @@ private slots:
         QVERIFY(log.indexOf(QRegularExpression("output .*/addr00011.b64")) > log.indexOf(QRegularExpression("output .*/addr_name.dat")));
         QCOMPARE(s.boxes.lines(), QStringList(U("Vellumark|0|Are you sure you want to delete every contact listed for the "
                                                 "category\r\n\"Main\"?")));
-        QCOMPARE(s.store.file("cat.dat"), s.index(0, {2, 3}));
-        QCOMPARE(s.store.file("cty.dat"), s.index(1, {2, 3}));
-        QCOMPARE(s.store.file("name.dat"), s.index(2, {2, 3}));
+        for (int i = 0; i < 3; ++i) QCOMPARE(s.store.file(kIndexes[i]), s.index(i, {2, 3}));
         QCOMPARE(s.records(), QStringList({"addr00013.b64", "addr00021.b64"}));
         QCOMPARE(s.names(), U("Åse,Per"));
         QCOMPARE(s.nodeTexts(), QStringList({"Category", "Café", "Main", "Tom", "Work (1)"}));
@@ -192,9 +176,9 @@ private slots:
         s.trigger("mnuDuplicateCategory");
         QCOMPARE(start, QString("Please enter a new category"));
         QCOMPARE(s.store.file("category.dat"), Cp1252(kCategories) + "\"23118\",\"Ny\"\r\n");
-        QCOMPARE(s.store.file("cat.dat"), s.index(0, {0, 1, 2, 3}, "\"Sweden\",\"23118\",\"17479\"\r\n\"Sweden\",\"23118\",\"18989\"\r\n"));
-        QCOMPARE(s.store.file("cty.dat"), s.index(1, {0, 1, 2, 3}, "\"Sweden\",\"17479\"\r\n\"Sweden\",\"18989\"\r\n"));
-        QCOMPARE(s.store.file("name.dat"), s.index(2, {0, 1, 2, 3}, "\"17479\",\"Åse\"\r\n\"18989\",\"Per\"\r\n"));
+        const char* const added[] = {"\"Sweden\",\"23118\",\"17479\"\r\n\"Sweden\",\"23118\",\"18989\"\r\n",
+                                     "\"Sweden\",\"17479\"\r\n\"Sweden\",\"18989\"\r\n", "\"17479\",\"Åse\"\r\n\"18989\",\"Per\"\r\n"};
+        for (int i = 0; i < 3; ++i) QCOMPARE(s.store.file(kIndexes[i]), s.index(i, {0, 1, 2, 3}, added[i]));
         const QString norway = QString::number(CountryIndex("Norway"));
         QCOMPARE(s.record("17479"), RecordBytes({"17479", "Åse", norway, "23118"}));
         QCOMPARE(s.record("18989"), RecordBytes({"18989", "Per", norway, "23118"}));
