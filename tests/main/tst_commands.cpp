@@ -92,8 +92,11 @@ private slots:
         QCOMPARE(w.CategoryTask, 0);
         s.store.put("category.dat", "\"00001\",\"A\"\r\n\"00002\",\"B\"\r\n\"00003\",\"C\"\r\n\"00004\",\"D\"\r\n");
         w.RefreshCategory();
+        QString opened;
+        ExpectModal([&](Form* form) { opened = form->objectName() + "|" + form->windowTitle(); });
         s.trigger("newcategory");  // with four categories there is room
         QCOMPARE(w.CategoryTask, 1);
+        QCOMPARE(opened, QString("frmupdatecat|New Category"));
         s.clickNode("A (1)");
         s.trigger("mnuPrint_p");
         w.ListView1->topLevelItem(0)->setSelected(true);

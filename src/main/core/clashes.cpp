@@ -64,6 +64,14 @@ void WindowArrays::TakeRows() {
     }
 }
 
+QStringList WindowArrays::ContactsOf(const QString& categoryId, const QString& country) const {
+    QStringList ids;
+    for (qsizetype row = 0; row < arrRowContact.size(); ++row)
+        if (StripEnds(arrRowCategory[row]) == categoryId && StripEnds(arrRowCountry[row]) == country)
+            ids << StripEnds(arrRowContact[row]);
+    return ids;
+}
+
 void WindowArrays::CheckClashes(const QString& categoryId) {
     const QStringList names = Items(strNames), ids = Items(strIds), countries = Items(strCountries);
     strClashNames.clear();

@@ -28,6 +28,10 @@ struct WindowArrays {
     // Adds each taken contact (arrSelId, arrSelName) that has a cat.dat row to
     // the four texts; one without a row drops out.
     void TakeRows();
+    // The contact ids of the cat.dat rows of `categoryId` in `country`, each
+    // field read with its quotes stripped. A one-character field is a
+    // failure (RoutineFailure).
+    QStringList ContactsOf(const QString& categoryId, const QString& country) const;
     // The clash test against the target category `categoryId`: fills the
     // four result texts.
     void CheckClashes(const QString& categoryId);

@@ -25,6 +25,12 @@ public:
     // Copies the checked rows into `categoryId` and `country` (the name is
     // not used), asking about each name clash.
     virtual void Duplicate(const QString& categoryId, const QString& categoryName, const QString& country) = 0;
+    // Copies the contacts of the tree's selected category, in the filter's
+    // country, into a new category that frmDuplicateCat asks for.
+    virtual void LoadFrmDuplicateCat() = 0;
+    // The tree anew from category.dat with bare names, no counts: the root
+    // expanded, selected and sorted, one node per category under it.
+    virtual void RebuildTreeWithoutCounts() = 0;
 
     // ---- what the print dialog and the export read of the window's controls ----
     // The country filter's entry at its selected position (empty without one).

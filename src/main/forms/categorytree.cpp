@@ -10,7 +10,9 @@
 #include "main/forms/frmmain.h"
 #include "main/forms/treeitems.h"
 #include "platform/forms/popup.h"
+#include "store/core/categories.h"
 #include "store/core/failure.h"
+#include "store/core/paths.h"
 #include "store/core/text.h"
 
 namespace {
@@ -64,26 +66,48 @@ int NodeCount(const QTreeWidget* tree) {
     return count;
 }
 
-// Builds the tree on an empty tree. The counts come from the live cat.dat,
-// for the country chosen in the filter. A failure passes to the caller, with
-// the nodes made before it in the tree.
-void FrmMain::LoadCategory() {
-    const QString filterCountry = CountryFilterText(cmbCountry->itemText(cmbCountry->currentIndex()));
-
+// The root: expanded, selected, and its children sorted.
+QTreeWidgetItem* FrmMain::AddRootNode() {
     QTreeWidgetItem* root = MakeNode(QStringLiteral("noderoot"), GetLanguageString(128), 3, 3);
     TreeView1->addTopLevelItem(root);
     root->setExpanded(true);
     TreeView1->setCurrentItem(root);
     root->setSelected(true);
+    return root;
+}
 
-    QList<CategoryNode> nodes;
-    const bool ok = LiveCategoryNodes(filterCountry, nodes);
-    // The root's children stand in the order of their whole texts.
+// The root's children stand in the order of their whole texts.
+void FrmMain::AddCategoryNodes(QTreeWidgetItem* root, QList<CategoryNode> nodes) {
     std::stable_sort(nodes.begin(), nodes.end(), [](const CategoryNode& a, const CategoryNode& b) {
         return TreeTextLess(a.text, b.text);
     });
     for (const CategoryNode& node : nodes) root->addChild(MakeNode(node.key, node.text, 1, 2));
+}
+
+// Builds the tree on an empty tree. The counts come from the live cat.dat,
+// for the country chosen in the filter. A failure passes to the caller, with
+// the nodes made before it in the tree.
+void FrmMain::LoadCategory() {
+    const QString filterCountry = CountryFilterText(cmbCountry->itemText(cmbCountry->currentIndex()));
+    QTreeWidgetItem* root = AddRootNode();
+    QList<CategoryNode> nodes;
+    const bool ok = LiveCategoryNodes(filterCountry, nodes);
+    AddCategoryNodes(root, nodes);
     if (!ok) throw RoutineFailure("LoadCategory");
+}
+
+// What the category dialogs put in the tree when they close: the names
+// alone, until the next RefreshCategory counts again.
+void FrmMain::RebuildTreeWithoutCounts() {
+    SetDropHighlight(nullptr);
+    TreeView1->clear();
+    QTreeWidgetItem* root = AddRootNode();
+    QList<CategoryLine> lines;
+    const bool ok = ReadCategoryLines(CategoryFile(), lines);
+    QList<CategoryNode> nodes;
+    for (const CategoryLine& line : lines) nodes.append({"id" + line.id, line.name});
+    AddCategoryNodes(root, nodes);
+    if (!ok) throw RoutineFailure("RebuildTreeWithoutCounts");
 }
 
 // The same after every change of the store: all nodes go first. Neither

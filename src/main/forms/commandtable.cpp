@@ -11,6 +11,12 @@ void InvertSelection(FrmMain& window);   // selection.cpp
 void PrintContacts(FrmMain& window);     // printcontacts.cpp
 void OnlineSupport(FrmMain& window);     // helpcommands.cpp
 void NewCategory(FrmMain& window);       // newcategory.cpp
+void ManageCategories(FrmMain& window);  // managecategory.cpp
+void DeleteCategory(FrmMain& window);    // managecategory.cpp
+void RenameCategory(FrmMain& window);    // renamecategory.cpp
+void EmptyCategory(FrmMain& window);     // emptycategory.cpp
+void DuplicateCategory(FrmMain& window);             // duplicatecategory.cpp
+void DuplicateCategoryFromToolbar(FrmMain& window);  // duplicatecategory.cpp
 void FindByName(FrmMain& window);        // findkeys.cpp
 void FindByEmail(FrmMain& window);       // findkeys.cpp
 void FindByCompany(FrmMain& window);     // findkeys.cpp
@@ -109,7 +115,7 @@ const Command kCommands[] = {
     Hidden(Entry("mnuExportYahoo", "mnuExport_add", "&Yahoo!", L(126), ExportContactsYahoo)),
     Hidden(Entry("mnuExportIncredible", "mnuExport_add", "&Incredible", L(127), ExportContactsIncredible)),
     Menu("mnuCategory", kBar, "&Category", L(128)),
-    Entry("mnuManageCategory", "mnuCategory", "&Manage Category", L(129)),
+    Entry("mnuManageCategory", "mnuCategory", "&Manage Category", L(129), ManageCategories),
     Hidden(Menu("mnuSkin", kBar, "S&kin", kNoString)),
     Entry("mnuNoSkin", "mnuSkin", "No Skin", kNoString, ChooseNoSkin),
     Row(K::Separator, "mnuSeparator1", "mnuSkin", "", kNoString),
@@ -127,10 +133,10 @@ const Command kCommands[] = {
     Entry("mnuEdit_p", "mnuRightClick", "Edit Contact", L(306), EditFromMenu),
     Entry("mnuPrint_p", "mnuRightClick", "Print Contact", L(317), PrintContacts),
     Popup("mnuTreeViewRightClick", "TreeViewRightClick"),  // over the tree
-    Entry("mnuDeleteCategory", "mnuTreeViewRightClick", "&Delete Category", L(304)),
-    Entry("mnuDuplicateCategory", "mnuTreeViewRightClick", "&Duplicate Category", L(329)),
-    Entry("mnuEmptyCategory", "mnuTreeViewRightClick", "&Empty Category", L(335)),
-    Entry("mnuRenameCategory", "mnuTreeViewRightClick", "&Rename Category", L(310)),
+    Entry("mnuDeleteCategory", "mnuTreeViewRightClick", "&Delete Category", L(304), DeleteCategory),
+    Entry("mnuDuplicateCategory", "mnuTreeViewRightClick", "&Duplicate Category", L(329), DuplicateCategory),
+    Entry("mnuEmptyCategory", "mnuTreeViewRightClick", "&Empty Category", L(335), EmptyCategory),
+    Entry("mnuRenameCategory", "mnuTreeViewRightClick", "&Rename Category", L(310), RenameCategory),
     // Built and captioned, never popped up and without handlers: a drop always moves.
     Popup("mnuTreeViewMouseUp", "TreeViewMouseUp"),
     Entry("mnuCopyContact", "mnuTreeViewMouseUp", "Copy Contact", L(336)),
@@ -147,7 +153,8 @@ const Command kCommands[] = {
     As(Button("duplicate", "Duplicate", "Duplicate Contact(s)", 135, QStyle::SP_FileDialogDetailedView),
        "mnuDuplicate_c"),
     As(ButtonEntry("duplicateContact", "duplicate", "Duplicate Contact(s)", 136), "mnuDuplicate_c"),
-    ButtonEntry("duplicateCategory", "duplicate", "Duplicate Category", 137),
+    // Without the pop-up entry's test of the node text.
+    ButtonEntry("duplicateCategory", "duplicate", "Duplicate Category", 137, DuplicateCategoryFromToolbar),
     // String 106 of the language library: the numbering has no string of its
     // own for the word.
     As(Button("delete", "Delete", "Delete Contact(s)", 106, QStyle::SP_TrashIcon), "mnuDelete_info"),

@@ -22,16 +22,6 @@ int CheckedRows(const QTreeWidget* list) {
     for (int i = 0; i < list->topLevelItemCount(); ++i) count += list->topLevelItem(i)->checkState(0) == Qt::Checked;
     return count;
 }
-
-void Cancelled(FrmMain& window, const QString& id) {
-    UnloadProgressMessage(BatchKind::Delete, &window);
-    MsgBox(GetLanguageString(575), MsgExclamation, GetLanguageString(300));
-    DiscardStagedFiles(id);
-    window.CopyAddrFile();
-    ClearContactBuffer();
-    window.RefreshCategory();
-    window.RefreshListView1(window.strCountry, window.strNodeKey);
-}
 }  // namespace
 
 void DeleteCheckedContacts(FrmMain& window) {
@@ -56,7 +46,7 @@ void DeleteCheckedContacts(FrmMain& window) {
     for (const QString& element : ids) {
         id = element;
         ProcessQueue();
-        if (CancelDelete) return Cancelled(window, id);
+        if (CancelDelete) return DeleteCancelled(window, id);
         const StoreResult deleted = DeleteContactFiles(id);
         if (!deleted) {
             // The progress window stays: its button has nothing left to stop.

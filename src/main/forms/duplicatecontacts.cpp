@@ -27,15 +27,6 @@ QStringList Checked(const QTreeWidget* list, int column) {
     return values;
 }
 
-// The copy's record keeps the country of the main window's filter; only the
-// indexes take the country picked. The copy's work copies stay for the
-// caller's DiscardStagedFiles.
-ContactId CopyContactTo(FrmMain& window, const ContactId& id, const QString& categoryId, const QString& country) {
-    ContactId newId;
-    CopyContactFiles(id, categoryId, country, qint16(window.cmbCountry->currentIndex()), &newId);
-    return newId;
-}
-
 // The "Yes" of a clash: what is read and copied is the contact that already
 // stands in the target (the old id), not the source; the old one is then
 // removed. The new contact is written first, so a failure between leaves two.

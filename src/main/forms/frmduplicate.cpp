@@ -1,78 +1,29 @@
 #include "main/forms/frmduplicate.h"
 
-#include <QCheckBox>
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QComboBox>
 #include <QPushButton>
-#include "app/core/inifile.h"
 #include "app/core/libraries.h"
 #include "app/core/placeholders.h"
 #include "app/forms/captionrule.h"
 #include "dialogs/forms/itemcombo.h"
 #include "main/core/mainwindowlink.h"
 #include "platform/core/msgbox.h"
-#include "platform/core/numbers.h"
 #include "store/core/categories.h"
 #include "store/core/text.h"
 
-frmDuplicate::frmDuplicate(QWidget* parent) : Form(parent) {
-    setObjectName("frmDuplicate");
-    lblDescription = new QLabel(this);
-    lblDescription->setObjectName("lblDescription");
-    lblDescription->setWordWrap(true);
-    lblCategory = new QLabel(this);
-    lblCategory->setObjectName("lblCategory");
+frmDuplicate::frmDuplicate(QWidget* parent) : DuplicateForm("frmDuplicate", parent) {
     cmbCat = new ItemCombo(200, this);
     cmbCat->setObjectName("cmbCat");
-    Check1 = new QCheckBox(this);
-    Check1->setObjectName("Check1");
-    lblCountry = new QLabel(this);
-    lblCountry->setObjectName("lblCountry");
-    cmbCountry2 = new QComboBox(this);
-    cmbCountry2->setObjectName("cmbCountry2");
-    cmdDuplicate = new QPushButton(this);
-    cmdDuplicate->setObjectName("cmdDuplicate");
-    cmdCancel = new QPushButton(this);
-    cmdCancel->setObjectName("cmdCancel");
-    for (QPushButton* button : {cmdDuplicate, cmdCancel}) button->setAutoDefault(false);
-
-    auto* grid = new QGridLayout(this);
-    grid->addWidget(lblDescription, 0, 0, 1, 3);
-    grid->addWidget(lblCategory, 1, 0);
-    grid->addWidget(cmbCat, 1, 1, 1, 2);
-    auto* countryLabel = new QHBoxLayout;
-    countryLabel->addWidget(Check1);
-    countryLabel->addWidget(lblCountry, 1);
-    grid->addLayout(countryLabel, 2, 0);
-    grid->addWidget(cmbCountry2, 2, 1, 1, 2);
-    grid->addWidget(cmdDuplicate, 3, 1);
-    grid->addWidget(cmdCancel, 3, 2);
-    grid->setColumnStretch(1, 1);
-
-    connect(Check1, &QCheckBox::toggled, cmbCountry2, &QWidget::setEnabled);
+    PlaceCategory(cmbCat);
     connect(cmdDuplicate, &QPushButton::clicked, this, &frmDuplicate::cmdDuplicate_Click);
-    connect(cmdCancel, &QPushButton::clicked, this, &Form::Unload);
 }
 
 void frmDuplicate::FormLoad() {
-    setWindowTitle(GetLanguageString(328));
-    lblDescription->setText(GetLanguageString(629));
-    lblCategory->setText(GetLanguageString(128));
-    lblCountry->setText(GetLanguageString(508));
-    cmdDuplicate->setText(GetLanguageString(135));
-    cmdCancel->setText(GetLanguageString(101));
-    // The country list as the main window's filter, on the stored country.
-    cmbCountry2->addItems(CountryNames());
-    qint16 country = 0;
-    TextToInt16(GetIniValue("Setting", "Country", "0", SettingFile()), country);
-    cmbCountry2->setCurrentIndex(country);
+    LoadDuplicateCaptions(328, GetLanguageString(629));
     QStringList items;
     CategoryComboItems(items);
     cmbCat->addItemTexts(items);
     cmbCat->setCurrentIndex(items.isEmpty() ? -1 : 0);
-    Check1->setChecked(false);
-    cmbCountry2->setEnabled(false);
     ApplyCaptionRule(this);  // ends with the 200 milliseconds' wait
 }
 

@@ -12,6 +12,7 @@
 #include <QMainWindow>
 #include <QRect>
 #include <QString>
+#include "main/core/categorycounts.h"
 #include "main/core/clashes.h"
 #include "main/core/mainwindowlink.h"
 #include "platform/forms/listviewitem.h"
@@ -54,6 +55,8 @@ public:
     int ListView1Count() const override;
     QString cmbCountryText() const override;
     QString SelectedNodeText() const override;
+    void LoadFrmDuplicateCat() override;
+    void RebuildTreeWithoutCounts() override;
     static QString CategoryNameFromNode(const QString& text);
 
     // ---- controls, by their names ----
@@ -92,6 +95,8 @@ private:
     void WriteLayoutSettings();
     void FormUnload();
     void ListContacts(const QString& country, const QString& key);
+    QTreeWidgetItem* AddRootNode();
+    void AddCategoryNodes(QTreeWidgetItem* root, QList<CategoryNode> nodes);
 
     // Events.
     void TreeView1_NodeClick();

@@ -1,6 +1,7 @@
 // New category (the toolbar's "newcategory").
 #include <QTreeWidget>
 #include "app/core/libraries.h"
+#include "categories/forms/frmupdatecat.h"
 #include "main/forms/frmmain.h"
 #include "main/forms/treeitems.h"
 #include "platform/core/msgbox.h"
@@ -12,4 +13,5 @@ void NewCategory(FrmMain& window) {
         return;
     }
     window.CategoryTask = 1;
+    ShowUpdateCat(&window, 311);
 }

@@ -17,7 +17,7 @@ MsgBoxPresenter& Presenter() {
 }  // namespace
 
 int MsgBox(const QString& prompt, int icon, int buttons, const QString& title) {
-    MsgBoxRequest request{prompt, title, icon, buttons};
+    MsgBoxRequest request{prompt, title, icon, buttons & ~MsgDefaultButton2, (buttons & MsgDefaultButton2) != 0};
     return Presenter()(request);
 }
 

@@ -7,6 +7,8 @@
 
 enum MsgIcon { MsgCritical = 16, MsgQuestion = 32, MsgExclamation = 48, MsgInformation = 64 };
 enum MsgButtons { MsgOkOnly = 0, MsgOkCancel = 1, MsgYesNoCancel = 3, MsgYesNo = 4 };
+// Added to the buttons: the second button is the default, not the first.
+constexpr int MsgDefaultButton2 = 256;
 enum MsgAnswer { AnswerOk = 1, AnswerCancel = 2, AnswerYes = 6, AnswerNo = 7 };
 
 struct MsgBoxRequest {
@@ -14,6 +16,7 @@ struct MsgBoxRequest {
     QString title;
     int icon = 0;     // one of MsgIcon, or 0
     int buttons = 0;  // one of MsgButtons
+    bool secondDefault = false;  // MsgDefaultButton2 was given
 };
 
 using MsgBoxPresenter = std::function<int(const MsgBoxRequest&)>;

@@ -24,6 +24,7 @@ int Present(const MsgBoxRequest& r) {
         break;
     default: box.setStandardButtons(QMessageBox::Ok); break;
     }
+    if (r.secondDefault && r.buttons == MsgYesNo) box.setDefaultButton(QMessageBox::No);
     switch (box.exec()) {
     case QMessageBox::Cancel: return AnswerCancel;
     case QMessageBox::Yes: return AnswerYes;

@@ -23,10 +23,12 @@ bool WriteStagedRecord(const ContactId& contactId) {
     return WriteRecordFile(StagedRecordPath(contactId), RecordTextFromBuffer(contactId, ContactBuffer));
 }
 
-StoreResult DeleteContactFiles(const ContactId& contactId) {
+StoreResult DeleteContactFiles(const ContactId& contactId, StagedRecordFirst first) {
     try {
-        ReadContactWithId(contactId);
-        if (!WriteStagedRecord(contactId)) return {StoreError::Failed, ErrPathFileAccess};
+        if (first == StagedRecordFirst::ReadAndWrite) {
+            ReadContactWithId(contactId);
+            if (!WriteStagedRecord(contactId)) return {StoreError::Failed, ErrPathFileAccess};
+        }
         StageIndexFiles();
         if (!RemoveCatLine(contactId) || !RemoveCtyLine(contactId) || !RemoveNameLine(contactId) ||
             !CommitStagedFiles(contactId, &ContactBuffer))

@@ -10,14 +10,20 @@
 // id, so that a commit has a record to move. False when it can't be written.
 bool WriteStagedRecord(const ContactId& contactId);
 
-// One contact of the delete walk: the record read (a missing one leaves the
-// buffer as it was), written as the staged record, the indexes staged, the
-// three lines removed, the four files committed, and the live record
+// What a delete walk does before the indexes. The delete of the checked rows
+// reads the record and writes it as the staged record; the empty of a
+// category writes none, so the commit writes it from ContactBuffer, which
+// holds nothing of this contact, and that file is what the delete removes.
+enum class StagedRecordFirst { ReadAndWrite, None };
+
+// One contact of a delete walk: (the record read, a missing one leaving the
+// buffer as it was, and written as the staged record,) the indexes staged,
+// the three lines removed, the four files committed, and the live record
 // deleted: it is rewritten and then removed. A step that gives false is a
 // Failed result without a run-time error; a record that can't be written or
 // deleted carries the run time's error number. The staging area is left to
 // the caller.
-StoreResult DeleteContactFiles(const ContactId& contactId);
+StoreResult DeleteContactFiles(const ContactId& contactId, StagedRecordFirst first = StagedRecordFirst::ReadAndWrite);
 
 // The removal of a contact whose record the caller has read: the indexes
 // staged, the three lines removed, the commit (which first writes the staged

@@ -21,14 +21,12 @@ float NextRandom() {
 
 void ResetRandomForTest() { g_state = kStartState; }
 
-int GenID() {
-    if (DataFolder().isEmpty()) return 0;
+int DrawUnused(const std::function<bool(int)>& inUse) {
     int attempts = 1;
     bool searching = true;
     int candidate = Draw();
     while (attempts < 32766 && searching) {
-        // Normal files only: a hidden or read-only record isn't seen here.
-        if (!NormalFileExists(RecordPath(IdText(candidate)))) {
+        if (!inUse(candidate)) {
             searching = false;
         } else {
             candidate = Draw();
@@ -37,4 +35,10 @@ int GenID() {
     }
     // After 32765 fruitless draws the last candidate stands, though taken.
     return candidate;
+}
+
+int GenID() {
+    if (DataFolder().isEmpty()) return 0;
+    // Normal files only: a hidden or read-only record isn't seen here.
+    return DrawUnused([](int candidate) { return NormalFileExists(RecordPath(IdText(candidate))); });
 }

@@ -12,3 +12,5 @@ QString RecordPath(const ContactId& contactId) { return DataFolder() + "/addr" +
 QString StagedRecordPath(const ContactId& contactId) { return TempFile("addr" + contactId + ".b64"); }
 QString CatSnapshot() { return TempFile("addr_cat.dat"); }
 QString CategorySnapshot() { return TempFile("addr_category.dat"); }
+QString CategoryBackupFile() { return TempFile("addr_category.tmp"); }
+QString CategoryStagedFile() { return TempFile("addr_addcategory.dat"); }

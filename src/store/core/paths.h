@@ -12,3 +12,5 @@ QString RecordPath(const ContactId& contactId);        // <app>/data/addr<id>.b6
 QString StagedRecordPath(const ContactId& contactId);  // staging: addr<id>.b64
 QString CatSnapshot();                        // staging: addr_cat.dat
 QString CategorySnapshot();                   // staging: addr_category.dat
+QString CategoryBackupFile();                 // staging: addr_category.tmp, category.dat during a change
+QString CategoryStagedFile();                 // staging: addr_addcategory.dat, the new category.dat

@@ -4,6 +4,7 @@
 // none of them shows a message.
 #include "store/core/batchwrites.h"
 #include "store/core/categories.h"
+#include "store/core/categorychanges.h"
 #include "store/core/genid.h"
 #include "store/core/ids.h"
 #include "store/core/indexfiles.h"
