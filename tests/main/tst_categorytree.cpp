@@ -1,6 +1,7 @@
 // The category tree and the country filter of the main window: counts per
 // country from the live cat.dat, node texts and order, the clicks and what
 // they leave in the list.
+#include <QTemporaryDir>
 #include "main/forms/treeitems.h"
 #include "store/core/failure.h"
 #include "support/formstore.h"
@@ -44,6 +45,40 @@ private slots:
         s.store.put("cat.dat", "");
         w.RefreshCategory();  // an empty cat.dat gives bare names
         QCOMPARE(s.nodeTexts(), QStringList({"Category", "family", "Main", "Work"}));
+    }
+
+    void rootPictureStandsApart_data() {
+        QTest::addColumn<QString>("theme");
+        QTest::newRow("no icon theme") << "";
+        QTest::newRow("Adwaita") << "Adwaita";
+        QTest::newRow("address book drawn as the folder") << "samefolder";
+    }
+
+    // Whatever icon theme the desktop uses, the root's picture is neither
+    // the closed nor the open category's.
+    void rootPictureStandsApart() {
+        QFETCH(QString, theme);
+        QTemporaryDir themes;
+        QDir(themes.path()).mkpath("samefolder/16x16/places");
+        QDir(themes.path()).mkpath("samefolder/16x16/mimetypes");
+        QFile index(themes.filePath("samefolder/index.theme"));
+        QVERIFY(index.open(QIODevice::WriteOnly));
+        index.write("[Icon Theme]\nName=samefolder\nDirectories=16x16/places,16x16/mimetypes\n"
+                    "[16x16/places]\nSize=16\nType=Fixed\n[16x16/mimetypes]\nSize=16\nType=Fixed\n");
+        index.close();
+        QImage square(16, 16, QImage::Format_ARGB32);
+        square.fill(Qt::darkYellow);
+        for (const char* name : {"places/folder.png", "mimetypes/x-office-address-book.png"})
+            QVERIFY(square.save(themes.filePath(QString("samefolder/16x16/") + name)));
+        QIcon::setThemeSearchPaths({themes.path(), "/usr/share/icons"});
+        QIcon::setThemeName(theme);
+        TreeStore s;
+        s.open();
+        auto image = [](QTreeWidgetItem* n, QIcon::Mode mode) { return n->icon(0).pixmap(16, mode).toImage(); };
+        const QImage root = image(s.node("Category"), QIcon::Normal);
+        QVERIFY(root != image(s.node("Main (2)"), QIcon::Normal));
+        QVERIFY(root != image(s.node("Main (2)"), QIcon::Selected));
+        QIcon::setThemeName(QString());
     }
 
     void nodeClicksFillTheListAndTheRootEmptiesIt() {

@@ -1,29 +1,17 @@
 // The category tree and the country filter.
-#include <QApplication>
 #include <QComboBox>
-#include <QIcon>
-#include <QStyle>
 #include <QTreeWidget>
 #include <algorithm>
 #include "app/core/libraries.h"
 #include "main/core/categorycounts.h"
 #include "main/forms/frmmain.h"
+#include "main/forms/treeimages.h"
 #include "main/forms/treeitems.h"
 #include "platform/forms/popup.h"
 #include "store/core/failure.h"
 #include "store/core/text.h"
 
 namespace {
-// ImageList1: 1 a closed category, 2 an open (selected) category, 3 the root.
-QIcon TreeImage(int index) {
-    QStyle* style = QApplication::style();
-    switch (index) {
-    case 1: return style->standardIcon(QStyle::SP_DirClosedIcon);
-    case 2: return style->standardIcon(QStyle::SP_DirOpenIcon);
-    default: return style->standardIcon(QStyle::SP_DirHomeIcon);
-    }
-}
-
 // A node shows its image, and its selected image while it is selected.
 QTreeWidgetItem* MakeNode(const QString& key, const QString& text, int image, int selectedImage) {
     auto* node = new QTreeWidgetItem(QStringList{text});
