@@ -93,6 +93,28 @@ private slots:
         QCOMPARE(s.rows(), QStringList());
     }
 
+    // Walking the tree with the keys shows each node's contacts as a click
+    // would, with the focus left in the tree; Enter on a node is the click,
+    // focus to the list. The root a rebuild selects runs nothing.
+    void theKeyboardWalksTheTree() {
+        TreeStore s;
+        FrmMain& w = s.open();
+        w.TreeView1->setFocus();
+        QStringList seen;
+        auto key = [&](Qt::Key k) {
+            QTest::keyClick(w.TreeView1, k);
+            seen << w.strNodeKey + "|" + s.names();
+        };
+        for (Qt::Key k : {Qt::Key_Down, Qt::Key_Down, Qt::Key_End, Qt::Key_Home, Qt::Key_PageDown}) key(k);
+        QCOMPARE(QApplication::focusWidget(), w.TreeView1);
+        w.RefreshCategory();
+        seen << s.selectedNodeText() + "|" + w.strNodeKey + "|" + s.names();
+        key(Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget(), w.ListView1);
+        QCOMPARE(seen, QStringList({"id00003|", U("id00001|Åse Berg,Per Holm"), "id00002|Kari Dahl", "noderoot|",
+                                    "id00002|Kari Dahl", "Category|id00002|Kari Dahl", "noderoot|"}));
+    }
+
     void aCountryChangeOrARebuildLeavesTheListOnItsCategory() {
         TreeStore s;
         FrmMain& w = s.open();

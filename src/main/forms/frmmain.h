@@ -19,6 +19,7 @@
 
 class QAction;
 class QComboBox;
+class QKeyEvent;
 class QLabel;
 class QMenu;
 class QToolBar;
@@ -95,6 +96,8 @@ private:
 
     // Events.
     void TreeView1_NodeClick();
+    void TreeView1_KeyDown(QKeyEvent* key);
+    void ShowSelectedNode();
     void TreeView1_MouseUp();
     void cmbCountry_Click();
     void ListView1_DblClick();
