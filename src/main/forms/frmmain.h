@@ -74,6 +74,7 @@ public:
     void PlaceFromSplitter();
     void SizeAndCentre();
     void ActivatedByProgram() override;
+    // The window's outer size as setting.ini holds it (see layout.cpp).
     int TwipsWidth() const;
     int TwipsHeight() const;
 
@@ -116,5 +117,7 @@ private:
     bool SetWidth(QWidget* control, int value);
     bool SetHeight(QWidget* control, int value);
     QRect TwipsOf(QWidget* control) const;
+    int FrameAndMenuTwips() const;
+    int MenuHeight(int windowWidth) const;
     void ApplyGeometry(QWidget* control);
 };
