@@ -126,14 +126,13 @@ void FrmMain::SizeAndCentre() {
     resize(pixelsWide, TwipsToPixelsY(height - FrameAndMenuTwips()) + MenuHeight(pixelsWide));
     QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return;
-    // Centred by the outer size: the window manager's frame where it has
-    // drawn one (a move places the frame's corner), else the stored size.
-    QSize outer{int(width), int(height)};
-    const QRect frame = frameGeometry();
-    if (frame != geometry()) outer = QSize(PixelsToTwipsX(frame.width()), PixelsToTwipsY(frame.height()));
+    // Centred by the outer size just read; a move places the corner of the
+    // window manager's frame. Its own frame is left out here as well: known
+    // only once the window is shown, it would move the window after the
+    // first dialog of the program closes.
     const int screenW = PixelsToTwipsX(screen->geometry().width());
     const int screenH = PixelsToTwipsY(screen->geometry().height());
-    move(TwipsToPixelsX(screenW / 2 - outer.width() / 2), TwipsToPixelsY(screenH / 2 - outer.height() / 2));
+    move(TwipsToPixelsX(screenW / 2 - int(width) / 2), TwipsToPixelsY(screenH / 2 - int(height) / 2));
 }
 
 void FrmMain::ActivatedByProgram() { SizeAndCentre(); }
