@@ -1,7 +1,6 @@
 // The category tree and the country filter of the main window: counts per
 // country from the live cat.dat, node texts and order, the clicks and what
 // they leave in the list.
-#include <QTemporaryDir>
 #include "main/forms/treeitems.h"
 #include "store/core/failure.h"
 #include "support/formstore.h"
@@ -58,27 +57,20 @@ private slots:
     // the closed nor the open category's.
     void rootPictureStandsApart() {
         QFETCH(QString, theme);
-        QTemporaryDir themes;
-        QDir(themes.path()).mkpath("samefolder/16x16/places");
-        QDir(themes.path()).mkpath("samefolder/16x16/mimetypes");
-        QFile index(themes.filePath("samefolder/index.theme"));
-        QVERIFY(index.open(QIODevice::WriteOnly));
-        index.write("[Icon Theme]\nName=samefolder\nDirectories=16x16/places,16x16/mimetypes\n"
-                    "[16x16/places]\nSize=16\nType=Fixed\n[16x16/mimetypes]\nSize=16\nType=Fixed\n");
-        index.close();
+        TreeStore s;
+        const QString themes = s.store.app() + "/../icons", samefolder = themes + "/samefolder/16/";
+        QDir().mkpath(samefolder);
+        s.store.write(samefolder + "../index.theme", "[Icon Theme]\nDirectories=16\n[16]\nSize=16\n");
         QImage square(16, 16, QImage::Format_ARGB32);
         square.fill(Qt::darkYellow);
-        for (const char* name : {"places/folder.png", "mimetypes/x-office-address-book.png"})
-            QVERIFY(square.save(themes.filePath(QString("samefolder/16x16/") + name)));
-        QIcon::setThemeSearchPaths({themes.path(), "/usr/share/icons"});
+        QVERIFY(square.save(samefolder + "folder.png") && square.save(samefolder + "x-office-address-book.png"));
+        QIcon::setThemeSearchPaths({themes, "/usr/share/icons"});
         QIcon::setThemeName(theme);
-        TreeStore s;
         s.open();
         auto image = [](QTreeWidgetItem* n, QIcon::Mode mode) { return n->icon(0).pixmap(16, mode).toImage(); };
         const QImage root = image(s.node("Category"), QIcon::Normal);
-        QVERIFY(root != image(s.node("Main (2)"), QIcon::Normal));
-        QVERIFY(root != image(s.node("Main (2)"), QIcon::Selected));
         QIcon::setThemeName(QString());
+        QVERIFY(root != image(s.node("Main (2)"), QIcon::Normal) && root != image(s.node("Main (2)"), QIcon::Selected));
     }
 
     void nodeClicksFillTheListAndTheRootEmptiesIt() {
