@@ -42,8 +42,15 @@ private slots:
         QVERIFY(QDir(store.appFile("data")).exists());
         QCOMPARE(window->cmbCountry->currentIndex(), 113);
         QCOMPARE(store.tempFiles(), QStringList({"addr_cat.dat", "addr_category.dat"}) + kLibraryCopies);
+        // The list ends at the window's inside bottom edge, after the load and after a resize.
+        auto gap = [window] {
+            QCoreApplication::processEvents();
+            return window->centralWidget()->height() - 1 - window->ListView1->geometry().bottom();
+        };
+        QCOMPARE(gap(), 0);
         window->cmbCountry->setCurrentIndex(5);
         window->resize(700, 500);
+        QCOMPARE(gap(), 0);
         emit window->VSplitter->moved(200);
         window->Entry("mnuFileExit")->trigger();
         QCoreApplication::processEvents();
@@ -53,8 +60,9 @@ private slots:
                                 "ColWidth4=15\r\n", "ColWidth5=0\r\n"})
             QVERIFY2(setting.contains(part), part);
         if (QGuiApplication::primaryScreen()->logicalDotsPerInchX() == 96)  // the twips of a 96 dpi screen
-            for (QByteArray part : {"Width=10500\r\n", "Height=7500\r\n", "[VSplitter]\r\nLeft=3000\r\n\r\n[VSplitter]\r\nLeft=4700"})
+            for (QByteArray part : {"Width=10500\r\n", "[VSplitter]\r\nLeft=3000\r\n\r\n[VSplitter]\r\nLeft=4700"})
                 QVERIFY2(setting.contains(part), part);
+        QCOMPARE(FrmMain().size(), QSize(700, 500));  // the size written comes back
         QCOMPARE(store.tempFiles(), QStringList());  // snapshots and library copies gone
     }
 

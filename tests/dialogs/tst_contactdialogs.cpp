@@ -100,6 +100,42 @@ private slots:
         QVERIFY(s.stagingIsClear());
     }
 
+    // Both dialogs open with the typing going into the name; in a new
+    // contact Enter then saves it in the country it started with.
+    void theTypingGoesIntoTheName() {
+        TwoContacts s;
+        frmaddtask add;
+        frmedittask edit;
+        QList<QWidget*> focus;
+        for (Form* dlg : std::initializer_list<Form*>{&edit, &add}) {
+            ExpectModal([&](Form*) {
+                dlg->activateWindow();
+                QVERIFY(QTest::qWaitForWindowActive(dlg));
+                focus << QApplication::focusWidget();
+                QTest::keyClicks(focus.last(), "Zed");
+                if (dlg != &add) return;
+                ExpectModal([](Form* other) { qWarning("%s opened", qPrintable(other->objectName())); });
+                QTest::keyClick(focus.last(), Qt::Key_Return);
+            });
+            ShowModal(dlg);
+        }
+        QCOMPARE(focus, QList<QWidget*>({edit.txtname, add.txtname}));
+        QCOMPARE(PendingModalScripts(), 1);  // Enter opened no other dialog
+        ClearModalScripts();
+        const QByteArray id = s.store.file("name.dat").split('\n').value(2).mid(1, 5);
+        QCOMPARE(s.record(id), RecordBytes({id, "Zed", s.country, "00001"}));
+    }
+
+    void phoneButtonTellsWhatItDoes() {
+        FormStore s;
+        frmaddtask add;
+        frmedittask edit;
+        add.FormLoad();
+        edit.FormLoad();
+        QCOMPARE(add.cmdPhone->toolTip() + "|" + edit.cmdPhone->toolTip(),
+                 QString("Look up international dialling codes|Look up international dialling codes"));
+    }
+
     void newContactRefusalsAndFailedSaves() {
         for (const QByteArray& categories : {QByteArray("\"00001\",\"Main\"\r\n"), QByteArray()}) {
             FormStore s;  // no country library; with and without a category

@@ -46,6 +46,33 @@ private slots:
         QCOMPARE(s.nodeTexts(), QStringList({"Category", "family", "Main", "Work"}));
     }
 
+    void rootPictureStandsApart_data() {
+        QTest::addColumn<QString>("theme");
+        QTest::newRow("no icon theme") << "";
+        QTest::newRow("Adwaita") << "Adwaita";
+        QTest::newRow("address book drawn as the folder") << "samefolder";
+    }
+
+    // Whatever icon theme the desktop uses, the root's picture is neither
+    // the closed nor the open category's.
+    void rootPictureStandsApart() {
+        QFETCH(QString, theme);
+        TreeStore s;
+        const QString themes = s.store.app() + "/../icons", samefolder = themes + "/samefolder/16/";
+        QDir().mkpath(samefolder);
+        s.store.write(samefolder + "../index.theme", "[Icon Theme]\nDirectories=16\n[16]\nSize=16\n");
+        QImage square(16, 16, QImage::Format_ARGB32);
+        square.fill(Qt::darkYellow);
+        QVERIFY(square.save(samefolder + "folder.png") && square.save(samefolder + "x-office-address-book.png"));
+        QIcon::setThemeSearchPaths({themes, "/usr/share/icons"});
+        QIcon::setThemeName(theme);
+        s.open();
+        auto image = [](QTreeWidgetItem* n, QIcon::Mode mode) { return n->icon(0).pixmap(16, mode).toImage(); };
+        const QImage root = image(s.node("Category"), QIcon::Normal);
+        QIcon::setThemeName(QString());
+        QVERIFY(root != image(s.node("Main (2)"), QIcon::Normal) && root != image(s.node("Main (2)"), QIcon::Selected));
+    }
+
     void nodeClicksFillTheListAndTheRootEmptiesIt() {
         TreeStore s;
         FrmMain& w = s.open();
@@ -56,6 +83,28 @@ private slots:
         s.clickNode("Category");
         QCOMPARE(w.strNodeKey, QString("noderoot"));
         QCOMPARE(s.rows(), QStringList());
+    }
+
+    // Walking the tree with the keys shows each node's contacts as a click
+    // would, with the focus left in the tree; Enter on a node is the click,
+    // focus to the list. The root a rebuild selects runs nothing.
+    void theKeyboardWalksTheTree() {
+        TreeStore s;
+        FrmMain& w = s.open();
+        w.TreeView1->setFocus();
+        QStringList seen;
+        auto key = [&](Qt::Key k) {
+            QTest::keyClick(w.TreeView1, k);
+            seen << w.strNodeKey + "|" + s.names();
+        };
+        for (Qt::Key k : {Qt::Key_Down, Qt::Key_Down, Qt::Key_End, Qt::Key_Home, Qt::Key_PageDown}) key(k);
+        QCOMPARE(QApplication::focusWidget(), w.TreeView1);
+        w.RefreshCategory();
+        seen << s.selectedNodeText() + "|" + w.strNodeKey + "|" + s.names();
+        key(Qt::Key_Return);
+        QCOMPARE(QApplication::focusWidget(), w.ListView1);
+        QCOMPARE(seen, QStringList({"id00003|", U("id00001|Åse Berg,Per Holm"), "id00002|Kari Dahl", "noderoot|",
+                                    "id00002|Kari Dahl", "Category|id00002|Kari Dahl", "noderoot|"}));
     }
 
     void aCountryChangeOrARebuildLeavesTheListOnItsCategory() {

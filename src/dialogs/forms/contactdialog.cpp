@@ -33,11 +33,6 @@ T* Named(QWidget* parent, const char* name) {
     return control;
 }
 
-QPushButton* Button(QWidget* parent, const char* name) {
-    auto* button = Named<QPushButton>(parent, name);
-    button->setAutoDefault(false);  // Enter in a box saves nothing by itself
-    return button;
-}
 }  // namespace
 
 ContactDialog::ContactDialog(QWidget* parent) : Form(parent) {
@@ -53,7 +48,7 @@ ContactDialog::ContactDialog(QWidget* parent) : Form(parent) {
     txttel1 = Named<QLineEdit>(this, "txttel1");
     lbExt1 = Named<QLabel>(this, "lbExt1");
     txtext1 = Named<QLineEdit>(this, "txtext1");
-    cmdPhone = Button(this, "cmdPhone");
+    cmdPhone = Named<QPushButton>(this, "cmdPhone");
     lbtel2 = Named<QLabel>(this, "lbtel2");
     txttel2 = Named<QLineEdit>(this, "txttel2");
     lbExt2 = Named<QLabel>(this, "lbExt2");
@@ -73,8 +68,8 @@ ContactDialog::ContactDialog(QWidget* parent) : Form(parent) {
     lbnotes = Named<QLabel>(this, "lbnotes");
     txtnotes = Named<QPlainTextEdit>(this, "txtnotes");
     ProgressBar = Named<QProgressBar>(this, "ProgressBar");
-    cmdSave = Button(this, "cmdSave");
-    cmdClose = Button(this, "cmdClose");
+    cmdSave = Named<QPushButton>(this, "cmdSave");
+    cmdClose = Named<QPushButton>(this, "cmdClose");
 
     // The phone button carries a picture, no caption.
     cmdPhone->setIcon(style()->standardIcon(QStyle::SP_FileDialogContentsView));
@@ -129,6 +124,13 @@ ContactDialog::ContactDialog(QWidget* parent) : Form(parent) {
     layout->addLayout(grid_);
     layout->addLayout(buttons);
 
+    // The user types the name first: the dialog opens with the focus there,
+    // while the tab order still starts at the country.
+    txtname->setFocus();
+    // Enter in a one-line box or a drop-down saves; a button with the focus
+    // takes Enter for itself, and the multi-line boxes take it as a new line.
+    cmdSave->setDefault(true);
+
     connect(cmdSave, &QPushButton::clicked, this, &ContactDialog::cmdSave_Click);
     connect(cmdClose, &QPushButton::clicked, this, &Form::Unload);
     connect(cmdPhone, &QPushButton::clicked, this, &ContactDialog::cmdPhone_Click);
@@ -166,6 +168,7 @@ void ContactDialog::LoadContactCaptions(int formCaption, const QList<QWidget*>& 
     lbnotes->setText(GetLanguageString(564));
     cmdSave->setText(GetLanguageString(102));
     cmdClose->setText(GetLanguageString(103));
+    cmdPhone->setToolTip(GetLanguageString(565));
     // Of the buttons only Save and Close take the language's size; the
     // labels take it in the rule.
     SetFontSize(cmdSave, LabelFontSize());

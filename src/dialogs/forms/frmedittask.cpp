@@ -16,7 +16,6 @@ frmedittask::frmedittask(QWidget* parent) : ContactDialog(parent) {
     setObjectName("frmedittask");
     cmdLink = new QPushButton(this);
     cmdLink->setObjectName("cmdLink");
-    cmdLink->setAutoDefault(false);
     addBesideEmail(cmdLink);
     setTabOrder(txtEmail, cmdLink);
     setMouseTracking(true);

@@ -1,13 +1,13 @@
 // The category tree and the country filter.
-#include <QApplication>
 #include <QComboBox>
-#include <QIcon>
-#include <QStyle>
+#include <QKeyEvent>
 #include <QTreeWidget>
 #include <algorithm>
 #include "app/core/libraries.h"
 #include "main/core/categorycounts.h"
 #include "main/forms/frmmain.h"
+#include "main/forms/guarded.h"
+#include "main/forms/treeimages.h"
 #include "main/forms/treeitems.h"
 #include "platform/forms/popup.h"
 #include "store/core/categories.h"
@@ -16,16 +16,6 @@
 #include "store/core/text.h"
 
 namespace {
-// ImageList1: 1 a closed category, 2 an open (selected) category, 3 the root.
-QIcon TreeImage(int index) {
-    QStyle* style = QApplication::style();
-    switch (index) {
-    case 1: return style->standardIcon(QStyle::SP_DirClosedIcon);
-    case 2: return style->standardIcon(QStyle::SP_DirOpenIcon);
-    default: return style->standardIcon(QStyle::SP_DirHomeIcon);
-    }
-}
-
 // A node shows its image, and its selected image while it is selected.
 QTreeWidgetItem* MakeNode(const QString& key, const QString& text, int image, int selectedImage) {
     auto* node = new QTreeWidgetItem(QStringList{text});
@@ -127,13 +117,35 @@ void FrmMain::SetDropHighlight(QTreeWidgetItem* node) {
 }
 
 void FrmMain::TreeView1_NodeClick() {
+    ShowSelectedNode();
+    ListView1->setFocus();
+}
+
+// The click but its last step: the list shows the selected node's contacts.
+void FrmMain::ShowSelectedNode() {
     SetDropHighlight(nullptr);
     QTreeWidgetItem* node = SelectedNode(TreeView1);
     if (!node) throw RoutineFailure("no selected node");
     strNodeKey = NodeKey(node);
     strCountry = CountryFilterText(cmbCountry->currentText());
     RefreshListView1(strCountry, strNodeKey);
-    ListView1->setFocus();
+}
+
+// A key that moves the selection (arrows, Home, End, the page keys, a
+// letter) shows the newly selected node's contacts as a click would, and
+// leaves the focus in the tree so that the next key walks on. Enter or
+// Space on a node is the click itself, and takes the focus to the list.
+// The root selected by a rebuild comes from no key and runs nothing.
+void FrmMain::TreeView1_KeyDown(QKeyEvent* key) {
+    const int code = key->key();
+    const bool enterOrSpace = code == Qt::Key_Return || code == Qt::Key_Enter || code == Qt::Key_Space;
+    QTreeWidgetItem* before = SelectedNode(TreeView1);
+    if (enterOrSpace && before) {
+        RunHandler("TreeView1 node click", [this] { TreeView1_NodeClick(); });
+        return;
+    }
+    static_cast<QObject*>(TreeView1)->event(key);  // the tree moves first
+    if (SelectedNode(TreeView1) != before) RunHandler("TreeView1 key move", [this] { ShowSelectedNode(); });
 }
 
 // It is the selected node that counts, not the node under the pointer: the

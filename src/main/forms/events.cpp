@@ -17,6 +17,7 @@ void FrmMain::WireControls() {
     connect(TreeView1, &QTreeWidget::itemClicked, this,
             [this] { RunHandler("TreeView1 node click", [this] { TreeView1_NodeClick(); }); });
     TreeView1->setContextMenuPolicy(Qt::PreventContextMenu);
+    TreeView1->installEventFilter(this);
     TreeView1->viewport()->installEventFilter(this);
     TreeView1->viewport()->setAcceptDrops(true);
 
@@ -67,6 +68,9 @@ bool FrmMain::eventFilter(QObject* watched, QEvent* event) {
             RunHandler("ListView1 mouse up", [this] { ListView1_MouseUp(); });
             return true;
         }
+    } else if (TreeView1 && watched == TreeView1 && type == QEvent::KeyPress) {
+        TreeView1_KeyDown(static_cast<QKeyEvent*>(event));
+        return true;
     } else if (ListView1 && watched == ListView1 && type == QEvent::KeyPress) {
         // The Delete key runs the handler of mnuDelete_info; no other key.
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete) {

@@ -20,6 +20,7 @@
 
 class QAction;
 class QComboBox;
+class QKeyEvent;
 class QLabel;
 class QMenu;
 class QToolBar;
@@ -76,6 +77,7 @@ public:
     void PlaceFromSplitter();
     void SizeAndCentre();
     void ActivatedByProgram() override;
+    // The window's outer size as setting.ini holds it (see layout.cpp).
     int TwipsWidth() const;
     int TwipsHeight() const;
 
@@ -100,6 +102,8 @@ private:
 
     // Events.
     void TreeView1_NodeClick();
+    void TreeView1_KeyDown(QKeyEvent* key);
+    void ShowSelectedNode();
     void TreeView1_MouseUp();
     void cmbCountry_Click();
     void ListView1_DblClick();
@@ -118,5 +122,7 @@ private:
     bool SetWidth(QWidget* control, int value);
     bool SetHeight(QWidget* control, int value);
     QRect TwipsOf(QWidget* control) const;
+    int FrameAndMenuTwips() const;
+    int MenuHeight(int windowWidth) const;
     void ApplyGeometry(QWidget* control);
 };

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
+#include <QMenuBar>
 #include <QScreen>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -41,8 +42,22 @@ bool FrmMain::SetTop(QWidget* c, int v) { return SetTwips(c, &QRect::moveTop, v,
 bool FrmMain::SetWidth(QWidget* c, int v) { return SetTwips(c, &QRect::setWidth, v, true); }
 bool FrmMain::SetHeight(QWidget* c, int v) { return SetTwips(c, &QRect::setHeight, v, true); }
 
+// The window's size as the formulas below and setting.ini take it: the outer
+// size of the window they were drawn for, with its title bar, borders and
+// menu. The formulas end the list Toolbar1's height and 200 twips above the
+// outer bottom edge, which is the client area's bottom edge in that window:
+// that is the room they leave for the title bar, the borders and the menu,
+// and nothing beside the 50 twips' margin at either side. A window manager's
+// frame is drawn by another program to measures of its own (often half as
+// high), so it is not counted here: the controls reach the bottom edge under
+// any of them, and a size written at unload reads back the same.
+int FrmMain::FrameAndMenuTwips() const { return PixelsToTwipsY(Toolbar1->sizeHint().height()) + 200; }
+int FrmMain::MenuHeight(int windowWidth) const { return menuBar()->heightForWidth(windowWidth); }
+
 int FrmMain::TwipsWidth() const { return PixelsToTwipsX(width()); }
-int FrmMain::TwipsHeight() const { return PixelsToTwipsY(height()); }
+int FrmMain::TwipsHeight() const {
+    return PixelsToTwipsY(height() - MenuHeight(width())) + FrameAndMenuTwips();
+}
 
 void FrmMain::LayoutMainWindow() {
     const int w = TwipsWidth(), h = TwipsHeight();
@@ -107,9 +122,14 @@ void FrmMain::SizeAndCentre() {
     long height = 5610, width = 6720;
     TextToLong(GetIniValue("Size", "Height", "5610", SettingFile()), height);
     TextToLong(GetIniValue("Size", "Width", "6720", SettingFile()), width);
-    resize(TwipsToPixelsX(width), TwipsToPixelsY(height));
+    const int pixelsWide = TwipsToPixelsX(width);
+    resize(pixelsWide, TwipsToPixelsY(height - FrameAndMenuTwips()) + MenuHeight(pixelsWide));
     QScreen* screen = QGuiApplication::primaryScreen();
     if (!screen) return;
+    // Centred by the outer size just read; a move places the corner of the
+    // window manager's frame. Its own frame is left out here as well: known
+    // only once the window is shown, it would move the window after the
+    // first dialog of the program closes.
     const int screenW = PixelsToTwipsX(screen->geometry().width());
     const int screenH = PixelsToTwipsY(screen->geometry().height());
     move(TwipsToPixelsX(screenW / 2 - int(width) / 2), TwipsToPixelsY(screenH / 2 - int(height) / 2));
