@@ -28,8 +28,15 @@ std::optional<QString> Field(const QStringList& fields, int i) {
 bool ReadCommitTables(const ImportDesign& design, CommitTables& tables) {
     QStringList names, cat;
     if (!ReadLines(LiveIndex("name"), names) || !ReadLines(LiveIndex("cat"), cat)) return false;
-    for (const QString& line : names) tables.names << SplitNameLine(line);
-    for (const QString& line : cat) tables.cat << line.split(u',');
+    for (const QString& line : names) {
+        const NameLine split = SplitNameLine(line);
+        tables.idsByName[split.name.toUpper()] << split.id;
+    }
+    for (const QString& line : cat) {
+        const QStringList fields = line.split(u',');
+        const auto country = Field(fields, 0), category = Field(fields, 1), id = Field(fields, 2);
+        if (country && category && id) tables.placesById[*id].append({*category, *country});
+    }
     if (!design.categoryFromFolder) return true;
     if (!ReadCategoryLines(CategoryFile(), tables.categories)) return false;
     tables.categories.append(CategoryLine());
@@ -38,12 +45,9 @@ bool ReadCommitTables(const ImportDesign& design, CommitTables& tables) {
 
 std::optional<ContactId> FindClash(const CommitTables& tables, const QString& name, const CategoryId& category,
                                    const QString& country) {
-    for (const NameLine& line : tables.names) {
-        if (line.name.toUpper() != name.toUpper()) continue;
-        for (const QStringList& fields : tables.cat)
-            if (Field(fields, 2) == line.id && Field(fields, 1) == category && Field(fields, 0) == country)
-                return line.id;
-    }
+    for (const ContactId& id : tables.idsByName.value(name.toUpper()))
+        for (const auto& place : tables.placesById.value(id))
+            if (place.first == category && place.second == country) return id;
     return std::nullopt;
 }
 

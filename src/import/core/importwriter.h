@@ -4,6 +4,7 @@
 // hand. A row whose name (in any letter case), category and country match
 // a contact of the store replaces it, keeping its id; any other row is a
 // new contact.
+#include <QHash>
 #include <QList>
 #include <QStringList>
 #include <optional>
@@ -14,11 +15,13 @@
 #include "store/core/result.h"
 
 // The tables a commit reads once at its start, so that the clash test
-// doesn't see the rows the commit itself writes. Each ends in an empty
-// element, one past the file's last line.
+// doesn't see the rows the commit itself writes; each holds the empty
+// element one past the file's last line.
 struct CommitTables {
-    QList<NameLine> names;          // name.dat
-    QList<QStringList> cat;         // cat.dat, each line split at every comma, quotes kept
+    QHash<QString, QList<ContactId>> idsByName;  // name.dat: the ids of each upper-cased name, in file order
+    // cat.dat, split at every comma: the category and country of each
+    // contact id, in file order; a line too short for the test is left out.
+    QHash<ContactId, QList<std::pair<CategoryId, QString>>> placesById;
     QList<CategoryLine> categories;  // category.dat, read for a design whose categories are folders
 };
 // False when a file can't be read, or category.dat holds a damaged line.
@@ -26,7 +29,7 @@ bool ReadCommitTables(const ImportDesign& design, CommitTables& tables);
 
 // The id of the first contact of that name (upper-cased on both sides)
 // whose cat.dat line has the category and the country, each compared
-// exactly. A line too short for the test is passed over.
+// exactly.
 std::optional<ContactId> FindClash(const CommitTables& tables, const QString& name, const CategoryId& category,
                                    const QString& country);
 
