@@ -125,11 +125,12 @@ private slots:
         FrmMain& w = s.open();
         QStringList seen;
         SetOpenFileNameHandlerForTest([&](const QString& title, const QString& filter) { return seen << title + filter, real; });
-        ExpectModal([](Form* choice) { QTest::mouseClick(Control<QPushButton>(choice, "cmdOK"), Qt::LeftButton); });
-        ExpectModal([](Form* choice) {  // frmoption, first without a choice
-            choice->findChildren<QRadioButton*>()[2]->click();
-            QTest::mouseClick(Control<QPushButton>(choice, "cmdOK"), Qt::LeftButton);
-        });
+        for (int option : {-1, 2})  // frmoption, first without a choice
+            ExpectModal([&, option](Form* choice) {
+                seen << choice->objectName();
+                if (QRadioButton* chosen = choice->findChildren<QRadioButton*>().value(option)) chosen->click();
+                QTest::mouseClick(Control<QPushButton>(choice, "cmdOK"), Qt::LeftButton);
+            });
         ExpectModal([&](Form* form) {
             auto& f = *static_cast<ImportSession*>(form);
             seen << f.objectName() << Cells(f.ListView1, {1, 2, 3});
@@ -138,7 +139,7 @@ private slots:
             QTest::mouseClick(f.cmdOK, Qt::LeftButton);
         });
         for (int i = 0; i < 2; ++i) QTest::mouseClick(w.Toolbar1->findChild<QToolButton*>("import"), Qt::LeftButton, {}, QPoint(4, 4));
-        QCOMPARE(seen, QStringList({"Category*.csv", "frmImportYahoo", "1|Joe  User|joe.user@example.com",
+        QCOMPARE(seen, QStringList({"frmoption", "frmoption", "Category*.csv", "frmImportYahoo", "1|Joe  User|joe.user@example.com",
                                     "2|Jane  User|jane.user@example.com", "1|Norway|Work|Jane  User|jane.user@example.com|161|00002",
                                     "2|Norway|Work|Joe  User|joe.user@example.com|161|00002"}));
         const QByteArray a = Contacts(s)[0].right(5).toLatin1(), b = Contacts(s)[1].right(5).toLatin1();
@@ -292,6 +293,7 @@ private slots:
             UseRows({{" Per ", "p@x", "1", "n", "c", "j", "Work", "t", "m", "f", "a"}});
             QVERIFY(RunForm(kind, AddAllAndWrite));
             const QString id = s.records().value(0).mid(4, 5);
+            QCOMPARE(Contacts(s), QStringList("Per@Norway/00002:" + id));  // the name trimmed in name.dat
             QCOMPARE(s.record(id), kind == ImportKind::OE
                          ? RecordBytes({id, " Per ", kNorway, "00002", "1", "", "", "", "", "", "", "", "", "", "p@x"}).replace("notes=\r\n", "")
                          : RecordBytes({id, "Per", kNorway, "00002", "1", "", "t", "", "m", "f", "c", "j", "a", "n", "p@x"}));
@@ -324,6 +326,20 @@ private slots:
         QCOMPARE(Contacts(s).mid(3).join(' ').remove(QRegularExpression(":\\d{5}")),
                  QString("Cy@Norway/00002 Bo@Norway/00002 Ann  Lee@Norway/00002 Cy@Norway/00001"));
         QCOMPARE(s.records().size(), 7);
+    }
+
+    // A row that fails (here the staged record's test of the working
+    // folder) is told, and Yes goes on with the next: the commit counts as done.
+    void aFailedRowAndGoOn() {
+        ImportStore s;
+        ChooseFile(s, "y.csv", kThree);
+        s.boxes.answer(AnswerYes);
+        FailFileOperationOn("exists ");
+        RunForm(ImportKind::Yahoo, [](ImportSession& f) { AddAll(f, "Norway", 0), QTest::mouseClick(f.cmdOK, Qt::LeftButton); });
+        QCOMPARE(Contacts(s).join(' ').remove(QRegularExpression(":\\d{5}")), QString("Bo@Norway/00001 Ann  Lee@Norway/00001"));
+        QCOMPARE(s.boxes.lines(), QStringList({"Tandry - Error|16|The contact could not be written to the working folder on this computer.",
+                                               "Import Contact|32|Cy could not be imported.\r\nDo you want to go on with the next contact?",
+                                               "Tandry|64|The import has finished. All contacts of the final list have been written."}));
     }
 
     // A fault at each file operation of a commit of three rows, the 320
