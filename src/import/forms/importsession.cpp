@@ -75,6 +75,13 @@ QTreeWidgetItem* Row(QTreeWidget* list, int position) {  // 1-based, as the list
     return item;
 }
 
+// One column of a list, read once for a scan of its pairs.
+QStringList Column(const QTreeWidget* list, int column) {
+    QStringList texts;
+    for (int i = 0; i < list->topLevelItemCount(); ++i) texts << list->topLevelItem(i)->text(column);
+    return texts;
+}
+
 QStringList Texts(const QTreeWidgetItem* item) {
     QStringList texts;
     for (int i = 0; i < item->columnCount(); ++i) texts << item->text(i);
@@ -249,12 +256,14 @@ void ImportSession::AddRow(const SourceRow& row) {
 
 // ---- the two lists ----
 
+// Every item checked and selected, or neither. The selection is made as
+// one range, which the list keeps cheaply while the items move away.
 void ImportSession::chkCheck_Click() {
     const bool on = chkCheck->isChecked();
-    for (int i = 0; i < ListView1->topLevelItemCount(); ++i) {
+    for (int i = 0; i < ListView1->topLevelItemCount(); ++i)
         ListView1->topLevelItem(i)->setCheckState(0, on ? Qt::Checked : Qt::Unchecked);
-        ListView1->topLevelItem(i)->setSelected(on);
-    }
+    if (on) ListView1->selectAll();
+    else ListView1->clearSelection();
 }
 
 // A heading's click sorts its list by that column, the same column again
@@ -288,11 +297,7 @@ void ImportSession::cmdAdd_Click() {
     }
     sort2.Apply(ListView2);
     ListView2->clearSelection();
-    try {
-        ScanForDuplicates();
-    } catch (const RoutineFailure&) {
-        // the scan ends where a pair sent back left it reading past the end
-    }
+    ScanForDuplicates();
     if (ListView1->topLevelItemCount() > 0) Renumber(ListView1, 1);
     if (ListView2->topLevelItemCount() > 0) {
         if (design.renumbersAfterAdd) Renumber(ListView2, 0);
@@ -303,21 +308,23 @@ void ImportSession::cmdAdd_Click() {
 // The same name (exactly, letter case counts) twice in one category of the
 // final list sends both back. After a pair of names that are equal with
 // different categories, no further pair of that row is looked at: the
-// second place stays where it is.
+// second place stays where it is. After a pair went back, the scan ends
+// where it would read a row past the end of the shorter list.
 void ImportSession::ScanForDuplicates() {
     const int count = ListView2->topLevelItemCount();
-    if (count < 2) return;
+    QStringList names = Column(ListView2, 3), categories = Column(ListView2, 2);
     for (int i = 1; i <= count; ++i) {
         int j = 1;
         for (int k = i; k <= count - 1; ++k) {
-            const QTreeWidgetItem* a = Row(ListView2, i);
-            const QTreeWidgetItem* b = Row(ListView2, i + j);
-            if (a->text(3) == b->text(3)) {
-                if (a->text(2) != b->text(2)) continue;
+            if (i + j > names.size()) return;
+            if (names[i - 1] == names[i + j - 1]) {
+                if (categories[i - 1] != categories[i + j - 1]) continue;
                 MsgBox(GetLanguageString(587), MsgExclamation, GetLanguageString(300));
                 SelectPair(i, i + j);
                 btnRemoveItem_Click();
-            } else if (i + j + 1 <= ListView2->topLevelItemCount()) {
+                names = Column(ListView2, 3);
+                categories = Column(ListView2, 2);
+            } else if (i + j + 1 <= names.size()) {
                 ++j;
             }
         }
@@ -385,16 +392,15 @@ void ImportSession::cmdOK_Click() {
 
 // The first pair of one name in one category found sends both rows back.
 bool ImportSession::RemoveDuplicateBeforeWrite() {
-    const int count = ListView2->topLevelItemCount();
+    const QStringList names = Column(ListView2, 3), categories = Column(ListView2, 2);
+    const int count = int(names.size());
     for (int i = 1; i <= count; ++i) {
         int j = 1;
         for (int k = i; k <= count && i + j <= count; ++k) {
-            const QTreeWidgetItem* a = Row(ListView2, i);
-            const QTreeWidgetItem* b = Row(ListView2, i + j);
-            if (a->text(3) != b->text(3)) {
+            if (names[i - 1] != names[i + j - 1]) {
                 ++j;
-            } else if (a->text(2) == b->text(2)) {
-                MsgBox(ReplaceText(GetLanguageString(588), "%contact", a->text(3)), MsgExclamation,
+            } else if (categories[i - 1] == categories[i + j - 1]) {
+                MsgBox(ReplaceText(GetLanguageString(588), "%contact", names[i - 1]), MsgExclamation,
                        GetLanguageString(300));
                 SelectPair(i, i + j);
                 btnRemoveItem_Click();
