@@ -38,6 +38,7 @@ bench: build
 	$(BUILD)/bench/store_bench
 	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/list_bench
 	$(BUILD)/bench/find_export_bench
+	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/import_bench
 
 clean:
 	rm -rf $(BUILD)
