@@ -317,8 +317,8 @@ void ImportSession::ScanForDuplicates() {
         int j = 1;
         for (int k = i; k <= count - 1; ++k) {
             if (i + j > names.size()) return;
-            if (names[i - 1] == names[i + j - 1]) {
-                if (categories[i - 1] != categories[i + j - 1]) continue;
+            if (names.value(i - 1) == names.value(i + j - 1)) {
+                if (categories.value(i - 1) != categories.value(i + j - 1)) continue;
                 MsgBox(GetLanguageString(587), MsgExclamation, GetLanguageString(300));
                 SelectPair(i, i + j);
                 btnRemoveItem_Click();
