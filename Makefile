@@ -39,6 +39,7 @@ bench: build
 	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/list_bench
 	$(BUILD)/bench/find_export_bench
 	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/batch_bench
+	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/import_bench
 
 clean:
 	rm -rf $(BUILD)

@@ -181,22 +181,6 @@ void ContactDialog::LoadContactCaptions(int formCaption, const QList<QWidget*>& 
     ApplyCaptionRule(this, options);
 }
 
-void ContactDialog::FillCategoryCombo() {
-    SetScreenPointer(11);
-    cbCategory->clear();
-    QStringList items;
-    CategoryComboItems(items);  // on a failure, the lines read so far
-    cbCategory->addItemTexts(items);
-    cbCategory->setCurrentIndex(items.isEmpty() ? -1 : 0);
-    SetScreenPointer(0);
-}
-
-void ContactDialog::FillCountryCombo() {
-    cbCountry->clear();
-    for (const QString& country : CountryNames()) cbCountry->addItemText(country);
-    if (cbCountry->count() > 0) cbCountry->setCurrentIndex(0);
-}
-
 bool ContactDialog::RefuseWithoutLists() {
     if (cbCategory->count() == 0) {
         MsgBox(WithOwnerName(GetLanguageString(626)), MsgExclamation, GetLanguageString(300));
@@ -268,8 +252,3 @@ void ContactDialog::cmdPhone_Click() {
     ShowModal(&phone, this);
 }
 
-bool SetListIndex(ItemCombo* combo, int index) {
-    if (index < -1 || index >= combo->count()) return false;
-    combo->setCurrentIndex(index);
-    return true;
-}

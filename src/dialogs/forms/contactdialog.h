@@ -5,11 +5,11 @@
 // dialog differ in the write itself, in what follows a successful write,
 // and in which text boxes keep the design's charset.
 #include <QList>
+#include "dialogs/forms/itemcombo.h"
 #include "platform/forms/modal.h"
 #include "store/core/record.h"
 #include "store/core/staging.h"
 
-class ItemCombo;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -69,8 +69,6 @@ protected:
     // labels, Save and Close take the language's size; all take the
     // charset but `withoutCharset`.
     void LoadContactCaptions(int formCaption, const QList<QWidget*>& withoutCharset);
-    void FillCategoryCombo();
-    void FillCountryCombo();
     // 626 without categories, else 627 without countries; both unload the
     // dialog. True when the dialog was refused.
     bool RefuseWithoutLists();
@@ -90,7 +88,3 @@ private:
     QGridLayout* grid_;
     int emailRow_ = 0;
 };
-
-// Sets a drop-down's selection as a list index is set: -1 clears it, an
-// index past either end is refused with false and changes nothing.
-bool SetListIndex(ItemCombo* combo, int index);

@@ -12,8 +12,8 @@ frmaddtask::frmaddtask(QWidget* parent) : ContactDialog(parent) {
 
 void frmaddtask::FormLoad() {
     LoadContactCaptions(325, {});
-    FillCategoryCombo();
-    FillCountryCombo();
+    FillCategoryCombo(cbCategory);
+    FillCountryCombo(cbCountry);
     if (RefuseWithoutLists()) return;
     // The main window has put the country and category to start with into
     // the buffer. An index the list doesn't hold leaves the first country.

@@ -26,8 +26,8 @@ void frmedittask::FormLoad() {
     cmdLink->setText(GetLanguageString(534));
     // Company and designation keep the design's charset in this dialog.
     LoadContactCaptions(330, {txtcompany, txtDesignation});
-    FillCategoryCombo();
-    FillCountryCombo();
+    FillCategoryCombo(cbCategory);
+    FillCountryCombo(cbCountry);
     RefuseWithoutLists();
 }
 

@@ -25,3 +25,14 @@ public:
 private:
     int shownLength_;
 };
+
+// The category list from category.dat (items CategoryItemText), the first
+// selected; the pointer is the hourglass meanwhile. On a failure, the lines
+// read so far.
+void FillCategoryCombo(ItemCombo* combo);
+// The countries of the country library, the first selected.
+void FillCountryCombo(ItemCombo* combo);
+
+// Sets a drop-down's selection as a list index is set: -1 clears it, an
+// index past either end is refused with false and changes nothing.
+bool SetListIndex(ItemCombo* combo, int index);

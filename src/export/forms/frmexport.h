@@ -5,17 +5,12 @@
 // loaded form that is never shown; shown, the form offers the four shapes
 // and runs the one chosen.
 #include "export/core/exportshapes.h"
-#include "platform/forms/modal.h"
+#include "import/forms/addressbookchoice.h"
 
-class QLabel;
-class QPushButton;
-class QRadioButton;
-
-class frmExport : public Form {
+class frmExport : public AddressBookChoice {
     Q_OBJECT
 public:
     explicit frmExport(QWidget* parent = nullptr);
-    void FormLoad() override;
 
     // Each ends at its first failure, which passes to the caller; the
     // progress dialog then stays until its Cancel is pressed.
@@ -24,12 +19,9 @@ public:
     void ExportYahoo();
     void ExportIncredible();
 
-    QLabel* lbdesc;
-    QRadioButton* optOperation[4];  // the order of ExportKind
-    QPushButton* cmdOK;
-    QPushButton* cmdCancel;
+protected:
+    void RunChoice(int index) override { Export(ExportKind(index)); }
 
 private:
     void Export(ExportKind kind);
-    void cmdOK_Click();
 };

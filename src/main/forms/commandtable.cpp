@@ -32,6 +32,11 @@ void ExportContactsOE(FrmMain& window);          // exportcontacts.cpp
 void ExportContactsMSO(FrmMain& window);         // exportcontacts.cpp
 void ExportContactsYahoo(FrmMain& window);       // exportcontacts.cpp
 void ExportContactsIncredible(FrmMain& window);  // exportcontacts.cpp
+void ImportOE(FrmMain& window);            // importcontacts.cpp
+void ImportMSO(FrmMain& window);           // importcontacts.cpp
+void ImportYahoo(FrmMain& window);         // importcontacts.cpp
+void ImportIncredi(FrmMain& window);       // importcontacts.cpp
+void ChooseImportSource(FrmMain& window);  // importcontacts.cpp
 
 namespace {
 using K = CommandKind;
@@ -64,8 +69,8 @@ constexpr Command Popup(const char* name, const char* design) {
     return Row(K::Popup, name, nullptr, design, kNoString);
 }
 constexpr Command Button(const char* key, const char* design, const char* toolTip, int string,
-                         QStyle::StandardPixmap picture) {
-    Command c = Row(K::Button, key, nullptr, design, L(string));
+                         QStyle::StandardPixmap picture, CommandHandler handler = nullptr) {
+    Command c = Row(K::Button, key, nullptr, design, L(string), handler);
     c.toolTip = toolTip;
     c.picture = picture;
     return c;
@@ -105,10 +110,10 @@ const Command kCommands[] = {
     Entry("mnuInvertSelection", "mnuSelect", "&Invert Selection", L(121), InvertSelection),
     Menu("mnuSynchronize", kBar, "S&ynchronize", L(152)),
     Menu("mnuImport_add", "mnuSynchronize", "&Import Contact", L(122)),
-    Entry("mnuImportOE", "mnuImport_add", "&Outlook Express", L(124)),
-    Entry("mnuImportMSO", "mnuImport_add", "&MS Outlook", L(125)),
-    Hidden(Entry("mnuYahoo", "mnuImport_add", "&Yahoo!", L(126))),
-    Hidden(Entry("mnuImportIncredible", "mnuImport_add", "&Incredible", L(127))),
+    Entry("mnuImportOE", "mnuImport_add", "&Outlook Express", L(124), ImportOE),
+    Entry("mnuImportMSO", "mnuImport_add", "&MS Outlook", L(125), ImportMSO),
+    Hidden(Entry("mnuYahoo", "mnuImport_add", "&Yahoo!", L(126), ImportYahoo)),
+    Hidden(Entry("mnuImportIncredible", "mnuImport_add", "&Incredible", L(127), ImportIncredi)),
     Menu("mnuExport_add", "mnuSynchronize", "&Export Contact", L(123)),
     Entry("mnuExportOE", "mnuExport_add", "&Outlook Express", L(124), ExportContactsOE),
     Entry("mnuExportMSO", "mnuExport_add", "&MS Outlook", L(125), ExportContactsMSO),
@@ -165,7 +170,8 @@ const Command kCommands[] = {
     As(ButtonEntry("exportMSO", "export", "Export MS Outlook", 142), "mnuExportMSO"),
     As(ButtonEntry("exportYahoo", "export", "Export Yahoo", 143), "mnuExportYahoo"),
     As(ButtonEntry("exportIncredible", "export", "Export Incredible", 144), "mnuExportIncredible"),
-    As(Button("import", "Import", "Import Contact(s)", 145, QStyle::SP_ArrowDown), "mnuImportOE"),
+    // The button asks which address book first; its entries open their forms.
+    Button("import", "Import", "Import Contact(s)", 145, QStyle::SP_ArrowDown, ChooseImportSource),
     As(ButtonEntry("importOE", "import", "Import Outlook Express", 146), "mnuImportOE"),
     As(ButtonEntry("importMSO", "import", "Import MS Outlook", 147), "mnuImportMSO"),
     As(ButtonEntry("importYahoo", "import", "Import Yahoo", 148), "mnuYahoo"),

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <cerrno>
 #include <cstdio>
+#include <dirent.h>
 #include <fcntl.h>
 #include <linux/msdos_fs.h>
 #include <sys/ioctl.h>
@@ -108,12 +109,25 @@ bool FatHidden(const QString& path) {
     return hidden;
 }
 
+// The look-up of an empty name lists the working folder: it finds a file
+// when that folder holds one.
+bool WorkingFolderHoldsAFile() {
+    DIR* folder = ::opendir(".");
+    if (!folder) return false;
+    bool found = false;
+    struct stat st;
+    while (const dirent* entry = ::readdir(folder))
+        if ((found = ::fstatat(::dirfd(folder), entry->d_name, &st, 0) == 0 && S_ISREG(st.st_mode))) break;
+    ::closedir(folder);
+    return found;
+}
+
 }  // namespace
 
 bool FileExists(const QString& path) {
     if (!Step("exists", path)) return false;
     struct stat st;
-    return StatRegular(path, st);
+    return path.isEmpty() ? WorkingFolderHoldsAFile() : StatRegular(path, st);
 }
 
 bool NormalFileExists(const QString& path) {

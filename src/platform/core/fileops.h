@@ -11,7 +11,8 @@
 #include <QStringList>
 
 // Existence as the store tests it: a regular file, whether read-only or
-// hidden or not. Folders and other kinds of file are not found.
+// hidden or not. Folders and other kinds of file are not found. An empty
+// name finds any file of the working folder, as the look-up lists it.
 bool FileExists(const QString& path);
 // The stricter test of the id generator: normal files only, so a read-only
 // or hidden file is not seen.

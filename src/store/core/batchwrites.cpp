@@ -8,6 +8,7 @@
 #include "store/core/paths.h"
 #include "store/core/record.h"
 #include "store/core/staging.h"
+#include "store/core/text.h"
 
 namespace {
 // The buffer as the record of `contactId`, with its category and country set.
@@ -84,4 +85,34 @@ bool MoveContactFiles(const ContactId& contactId, const CategoryId& categoryId, 
     }
     DiscardStagedFiles(contactId);
     return false;
+}
+
+StoreResult WriteImportedRecord(const ContactRecord& record, const QString& country,
+                                const std::optional<ContactId>& clashId, bool withNotes) {
+    ContactId id;
+    try {
+        id = clashId ? *clashId : IdText(GenID());
+        StageIndexFiles();
+        if (!FileExists(QString())) return StoreError::StagedRecordMissing;
+        if (clashId) ReadContact(id);  // read, and not used: the row alone makes the record
+        const QString name = TrimSpaces(record.infoname);
+        if (WriteRecordFile(StagedRecordPath(id), RecordTextFromBuffer(id, record, withNotes))) {
+            bool lines = false;
+            if (clashId) {
+                lines = ReplaceCatLine(id, country, record.category) &&
+                        ReplaceCtyLine(id, country, record.category, CtyReplace::KeepContactId) &&
+                        ReplaceNameLine(id, name, NameReplace::OnlyReplace);
+            } else if (AppendCatLine(id, country, record.category) && AppendCtyLine(id, country)) {
+                if (!AppendNameLine(id, name)) {
+                    DiscardStagedFiles(id);
+                    return {StoreError::Failed, ErrPathFileAccess};
+                }
+                lines = true;
+            }
+            if (lines && CommitStagedFiles(id)) return {};
+        }
+    } catch (const RoutineFailure&) {
+    }
+    DiscardStagedFiles(id);
+    return StoreError::Failed;
 }

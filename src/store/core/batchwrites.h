@@ -3,7 +3,9 @@
 // full staged write of its own. The record they write comes from
 // ContactBuffer: file values as read, written back without encoding.
 #include <QString>
+#include <optional>
 #include "store/core/ids.h"
+#include "store/core/record.h"
 #include "store/core/result.h"
 
 // Writes ContactBuffer as the staged record of `contactId`, with infoid the
@@ -48,3 +50,17 @@ bool CopyContactFiles(const ContactId& contactId, const CategoryId& categoryId, 
 // caller's to clear.
 bool MoveContactFiles(const ContactId& contactId, const CategoryId& categoryId, const QString& country,
                       qint16 recordCountry);
+
+// An imported contact, in the order of the import's writer: with
+// `clashId`, the contact it replaces (its record read, its three lines
+// replaced, its id kept); without, a new contact with an id drawn and its
+// lines appended. The indexes are staged, whatever that gives; then the
+// staged record's name is tested before it is set, and an empty name finds
+// a file only where the working folder holds one: StagedRecordMissing
+// when it finds none, and nothing is deleted. The record goes out as it
+// stands, values unencoded (a line break in one ends its line), the notes=
+// line only `withNotes`; the lines take `country`, the record's category
+// and its name trimmed. A failure inside the append of the name line
+// carries the run time's error; every failure clears the staging area.
+StoreResult WriteImportedRecord(const ContactRecord& record, const QString& country,
+                                const std::optional<ContactId>& clashId, bool withNotes);

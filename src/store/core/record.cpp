@@ -125,15 +125,18 @@ QByteArray RecordTextFromForm(const ContactId& contactId, const ContactForm& f) 
     return RecordTextFromBuffer(contactId, r);
 }
 
-QByteArray RecordTextFromBuffer(const ContactId& contactId, const ContactRecord& r) {
-    return Lines({{"infoid", contactId},        {"infoname", r.infoname},
-                  {"country", QString::number(r.country)},
-                  {"category", r.category},     {"tel1", r.tel1},
-                  {"ext1", r.ext1},             {"tel2", r.tel2},
-                  {"ext2", r.ext2},             {"mobile", r.mobile},
-                  {"fax", r.fax},               {"company", r.company},
-                  {"designation", r.designation}, {"addr", r.addr},
-                  {"notes", r.notes},           {"mail", r.mail}});
+QByteArray RecordTextFromBuffer(const ContactId& contactId, const ContactRecord& r, bool withNotes) {
+    QList<std::pair<const char*, QString>> keys = {
+        {"infoid", contactId},        {"infoname", r.infoname},
+        {"country", QString::number(r.country)},
+        {"category", r.category},     {"tel1", r.tel1},
+        {"ext1", r.ext1},             {"tel2", r.tel2},
+        {"ext2", r.ext2},             {"mobile", r.mobile},
+        {"fax", r.fax},               {"company", r.company},
+        {"designation", r.designation}, {"addr", r.addr},
+        {"notes", r.notes},           {"mail", r.mail}};
+    if (!withNotes) keys.removeAt(13);
+    return Lines(keys);
 }
 
 bool WriteRecordFile(const QString& path, const QByteArray& text) {

@@ -50,7 +50,8 @@ QString DecodeNextLine(const QString& text);
 
 // The record lines for a save from the contact dialogs (fields encoded).
 QByteArray RecordTextFromForm(const ContactId& contactId, const ContactForm& form);
-// The record lines from a buffer, values written back as read.
-QByteArray RecordTextFromBuffer(const ContactId& contactId, const ContactRecord& record);
+// The record lines from a buffer, values written back as read; without
+// `withNotes` the notes= line is left out altogether.
+QByteArray RecordTextFromBuffer(const ContactId& contactId, const ContactRecord& record, bool withNotes = true);
 // Opens the file for output, writes the lines, closes.
 bool WriteRecordFile(const QString& path, const QByteArray& text);
