@@ -27,6 +27,8 @@ struct Road {
     QStringList gone;  // the contacts or categories the road takes out
 };
 
+void PrintTo(const Road& road, std::ostream* os) { *os << road.name; }
+
 // The files the next start reads, each with the row that allows it to be
 // missing after the road deleted it (none: never).
 const std::pair<const char*, const char*> kFiles[] = {
