@@ -1,17 +1,22 @@
 # The two commands: `make run` and `make test`. Both install what is
 # missing (Debian packages, through apt-get), build, and go on.
-PACKAGES := cmake make g++ qt6-base-dev libgtest-dev xvfb xauth fonts-dejavu-core poppler-utils
+PACKAGES := cmake make g++ qt6-base-dev libgtest-dev xvfb xauth fonts-dejavu-core poppler-utils \
+  dosfstools fusefat
+# `make fuzz` alone needs these: clang and its fuzzer and sanitizer runtimes.
+FUZZ_PACKAGES := clang libclang-rt-dev
+FUZZ_BUILD := build-fuzz
+FUZZ_SECONDS := 60
 BUILD := build
 JOBS := $(shell nproc 2>/dev/null || echo 2)
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 
-.PHONY: all deps configure build run test bench clean
+.PHONY: all deps configure build run test bench fuzz clean
 
 all: build
 
 deps:
 	@missing=""; \
-	for p in $(PACKAGES); do \
+	for p in $(PACKAGES) $(EXTRA_PACKAGES); do \
 	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q "ok installed" || missing="$$missing $$p"; \
 	done; \
 	if [ -n "$$missing" ]; then \
@@ -40,6 +45,24 @@ bench: build
 	$(BUILD)/bench/find_export_bench
 	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/batch_bench
 	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/import_bench
+	sh tests/fat/on_fat_image.sh $(BUILD)/bench/durable_bench || [ $$? = 77 ]
+
+# Each fuzz target for FUZZ_SECONDS (make fuzz FUZZ_SECONDS=600), from its
+# seed corpus in tests/fuzz/corpus/<target>/; new inputs gather in
+# $(FUZZ_BUILD)/corpus/. A crash stops the run: its input is in
+# $(FUZZ_BUILD)/crashes/, to be added to the seed corpus once fixed.
+fuzz:
+	$(MAKE) deps EXTRA_PACKAGES="$(FUZZ_PACKAGES)"
+	cmake -S . -B $(FUZZ_BUILD) -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ -DTANDRY_FUZZ=ON
+	cmake --build $(FUZZ_BUILD) -j $(JOBS)
+	@mkdir -p $(FUZZ_BUILD)/crashes
+	@for t in $(notdir $(wildcard tests/fuzz/corpus/*)); do \
+	  mkdir -p $(FUZZ_BUILD)/corpus/$$t; \
+	  $(FUZZ_BUILD)/tests/fuzz/fuzz_$$t -max_total_time=$(FUZZ_SECONDS) -artifact_prefix=$(FUZZ_BUILD)/crashes/$$t- \
+	    $(FUZZ_BUILD)/corpus/$$t tests/fuzz/corpus/$$t >$(FUZZ_BUILD)/$$t.log 2>&1 || \
+	    { tail -n 40 $(FUZZ_BUILD)/$$t.log; echo "fuzz_$$t: a crash; its input is in $(FUZZ_BUILD)/crashes/"; exit 1; }; \
+	  echo "fuzz_$$t: $$(grep -o 'Done [0-9]* runs in [0-9]* second' $(FUZZ_BUILD)/$$t.log)"; \
+	done
 
 clean:
-	rm -rf $(BUILD)
+	rm -rf $(BUILD) $(FUZZ_BUILD)

@@ -3,6 +3,7 @@
 // the keys written when the main window closes.
 #include <QLabel>
 #include <QScreen>
+#include <unistd.h>
 #include "app/forms/frmprogress.h"
 #include "app/forms/general.h"
 #include "main/forms/vsplitter.h"
@@ -133,6 +134,20 @@ private slots:
         QCOMPARE(caption->font().pointSize() * 1000 + caption->property("fontCharset").toInt(), 8000);
         QVERIFY(!SkinEnabled);  // no skins on this system
         UnloadAllLibraries();
+    }
+
+    void aStagingFolderOfAnotherUserFailsTheStartBeforeTheStore() {
+        if (::getuid() != 0) QSKIP("giving a folder to another user needs root");
+        ScratchStore store;
+        InstallLibraries(store);
+        QDir().mkpath(store.temp());
+        QCOMPARE(::chown(QFile::encodeName(store.temp()).constData(), 65534, 65534), 0);
+        MsgBoxScript boxes;
+        FrmMain* window = nullptr;
+        QCOMPARE(Main(&window), StartResult::Failed);
+        QVERIFY(!window);
+        QCOMPARE(boxes.count(), 0);
+        QVERIFY(!store.exists(store.appFile("setting.ini")));
     }
 
     void aStagingAreaThatCannotBeMadeIsOnlyWarnedOf() {

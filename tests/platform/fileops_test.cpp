@@ -39,6 +39,25 @@ TEST(FileOps, TheStagingAreaIsPrivateAndNoLinkIsFollowed) {
     EXPECT_FALSE(EnsureTempArea());
 }
 
+TEST(FileOps, AStagingFolderOpenToOthersIsClosedAndOneOfAnotherUserRefused) {
+    const struct { uid_t owner; mode_t mode; bool refused; } rows[] = {
+        {::getuid(), 0777, false}, {::getuid(), 0705, false}, {65534, 0700, true}};
+    for (const auto& row : rows) {
+        if (row.owner != ::getuid() && ::getuid() != 0) GTEST_SKIP() << "giving a folder to another user needs root";
+        ScratchStore store;
+        QDir().mkpath(store.temp());
+        for (const QString& folder : {VellumarkFolder(), TempArea()}) {
+            ASSERT_EQ(::chmod(QFile::encodeName(folder).constData(), row.mode), 0);
+            ASSERT_EQ(::chown(QFile::encodeName(folder).constData(), row.owner, row.owner), 0);
+        }
+        EXPECT_EQ(TempAreaRefused(), row.refused) << row.mode;
+        EXPECT_EQ(EnsureTempArea(), !row.refused);
+        struct stat st;
+        ASSERT_EQ(::stat(QFile::encodeName(TempArea()).constData(), &st), 0);
+        EXPECT_EQ(st.st_mode & 0777, row.refused ? row.mode : 0700u);
+    }
+}
+
 TEST(FileOps, MovesFailOntoAFileAndCrossFileSystemsAsCopyAndDelete) {
     ScratchStore store;
     store.put("a", "A");

@@ -1,5 +1,6 @@
 #include "support/scratch.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include "platform/core/appfolder.h"
@@ -7,7 +8,12 @@
 #include "platform/core/fileops.h"
 #include "platform/core/tempfolder.h"
 
+QString ScratchDrive() { return qEnvironmentVariable("TANDRY_SCRATCH_DRIVE"); }
+
 ScratchStore::ScratchStore() {
+    static int count = 0;
+    app_ = ScratchDrive().isEmpty() ? dir_.path() + "/drive/Tandry"
+                                    : ScratchDrive() + QString("/t%1_%2").arg(QCoreApplication::applicationPid()).arg(++count);
     QDir().mkpath(app());
     SetAppPathForTest(app());
     SetVellumarkFolderForTest(dir_.path() + "/cache/Vellumark");
@@ -18,6 +24,7 @@ ScratchStore::ScratchStore() {
 }
 
 ScratchStore::~ScratchStore() {
+    if (!ScratchDrive().isEmpty()) QDir(app_).removeRecursively();
     FailFileOperationAt(0);
     SetFileOperationLogging(false);
     SetAppPathForTest(QString());
@@ -25,7 +32,7 @@ ScratchStore::~ScratchStore() {
     SetSystemTempPathForTest(QString());
 }
 
-QString ScratchStore::app() const { return dir_.path() + "/drive/Tandry"; }
+QString ScratchStore::app() const { return app_; }
 QString ScratchStore::temp() const { return dir_.path() + "/cache/Vellumark/temp"; }
 QString ScratchStore::systemTemp() const { return dir_.path() + "/tmp"; }
 

@@ -1,6 +1,8 @@
 #pragma once
 // A scratch application folder and staging area for one test, removed after.
-// Points the program's folders at them for the test's duration.
+// Points the program's folders at them for the test's duration. With
+// TANDRY_SCRATCH_DRIVE set (a mounted FAT image, see tests/fat/), the
+// application folder is made there, the staging area stays local.
 #include <QByteArray>
 #include <QString>
 #include <QTemporaryDir>
@@ -26,7 +28,10 @@ public:
     void putRecord(const QStringList& values) const;
 private:
     QTemporaryDir dir_;
+    QString app_;
 };
+// The folder TANDRY_SCRATCH_DRIVE names, or empty.
+QString ScratchDrive();
 
 // Windows-1252 bytes from a UTF-8 literal, for hand-written store files.
 QByteArray Cp1252(const char* utf8);

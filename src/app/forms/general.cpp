@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <exception>
+#include <stdexcept>
 #include "app/core/globals.h"
 #include "app/core/inifile.h"
 #include "app/core/libraries.h"
@@ -13,6 +14,7 @@
 #include "platform/core/fileops.h"
 #include "platform/core/instance.h"
 #include "platform/core/msgbox.h"
+#include "platform/core/tempfolder.h"
 
 const char* const kAlreadyRunningMessage =
     "Application already found running on the system. It may be running on the background. "
@@ -45,6 +47,8 @@ StartResult Main(FrmMain** mainWindow) {
     if (PrevInstance()) return Refuse(kAlreadyRunningMessage);
     frmprogress* splash = nullptr;
     try {
+        // A staging folder that is not the user's own is never written to.
+        if (TempAreaRefused()) throw std::runtime_error("the staging area is not the user's own");
         EnsureStoreFiles();
         LanguageId = ReadLanguageId();
         CharsetId = ReadCharsetId();

@@ -9,6 +9,7 @@
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include "platform/core/tempfolder.h"
 
 namespace {
 
@@ -19,6 +20,12 @@ QString g_failed;
 bool g_logging = false;
 QStringList g_log;
 QStringList g_trace;
+bool g_flush = true;
+FileEventWatcher g_watcher;
+
+void Tell(FileEvent event, const QString& path, const QString& target = QString()) {
+    if (g_watcher) g_watcher(event, path, target);
+}
 
 // Counts one operation; false when it is the one a test made fail.
 bool Step(const char* kind, const QString& path) {
@@ -40,6 +47,55 @@ void Log(const char* kind, const QString& path) {
 }
 
 QByteArray Native(const QString& path) { return QFile::encodeName(path); }
+
+// What is written in the staging area is scratch: it has to reach the device
+// only when it leaves the staging area. Everything else (the drive's store,
+// setting.ini, an exported file) reaches the device before the call that
+// wrote it returns.
+bool Lasting(const QString& path) { return !path.startsWith(TempArea() + u'/'); }
+
+QString FolderOf(const QString& path) {
+    const qsizetype slash = path.lastIndexOf(u'/');
+    return slash < 0 ? QStringLiteral(".") : slash == 0 ? QStringLiteral("/") : path.left(slash);
+}
+
+// A file system that has no such flush (EINVAL) has nothing to flush.
+bool Flushed(int result) { return result == 0 || errno == EINVAL; }
+
+bool SyncData(int fd, const QString& path) {
+    if (g_flush && !Flushed(::fdatasync(fd))) return false;
+    Tell(FileEvent::Synced, path);
+    return true;
+}
+
+bool SyncFile(const QString& path) {
+    const int fd = ::open(Native(path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0) return false;
+    const bool ok = SyncData(fd, path);
+    return ::close(fd) == 0 && ok;
+}
+
+// Makes the names of a folder (a new file, a rename, a delete) last.
+bool SyncFolder(const QString& folder) {
+    const int fd = ::open(Native(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return false;
+    const bool ok = !g_flush || Flushed(::fsync(fd));
+    ::close(fd);
+    if (ok) Tell(FileEvent::FolderSynced, folder);
+    return ok;
+}
+
+bool Unlink(const QString& path) {
+    if (::unlink(Native(path).constData()) != 0) return false;
+    Tell(FileEvent::Removed, path);
+    return true;
+}
+
+bool Rename(const QString& source, const QString& target) {
+    if (::rename(Native(source).constData(), Native(target).constData()) != 0) return false;
+    Tell(FileEvent::Renamed, source, target);
+    return true;
+}
 
 bool StatRegular(const QString& path, struct stat& st) {
     return ::stat(Native(path).constData(), &st) == 0 && S_ISREG(st.st_mode);
@@ -85,17 +141,48 @@ bool RawRead(const QString& path, QByteArray& bytes) {
     return ok;
 }
 
-bool RawWrite(const QString& path, const QByteArray& bytes) {
-    int fd = OpenForWriting(path, O_TRUNC);
+// Creates or empties the file and writes the bytes; with `flush`, the data
+// reach the device before it returns.
+bool WriteData(const QString& path, const QByteArray& bytes, bool flush) {
+    const int fd = OpenForWriting(path, O_TRUNC);
     if (fd < 0) return false;
+    Tell(FileEvent::Changed, path);
     bool ok = WriteAll(fd, bytes.constData(), bytes.size());
-    ok = (::close(fd) == 0) && ok;
-    return ok;
+    Tell(FileEvent::Changed, path);
+    if (ok && flush) ok = SyncData(fd, path);
+    return ::close(fd) == 0 && ok;
+}
+
+// With `lasting`, the data and the file's name reach the device.
+bool RawWrite(const QString& path, const QByteArray& bytes, bool lasting) {
+    return WriteData(path, bytes, lasting) && (!lasting || SyncFolder(FolderOf(path)));
 }
 
 bool RawCopy(const QString& source, const QString& target) {
     QByteArray bytes;
-    return RawRead(source, bytes) && RawWrite(target, bytes);
+    return RawRead(source, bytes) && RawWrite(target, bytes, Lasting(target));
+}
+
+bool SameFileSystem(const QString& source, const QString& target) {
+    struct stat a, b;
+    return ::stat(Native(source).constData(), &a) == 0 && ::stat(Native(FolderOf(target)).constData(), &b) == 0 &&
+           a.st_dev == b.st_dev;
+}
+
+// A move onto another file system: a copy under a side name beside the
+// target, flushed, renamed into place, the folder flushed; only then does
+// the source go, so that a pulled drive never costs the only copy.
+bool MoveAcross(const QString& source, const QString& target, bool lasting) {
+    const QString side = target + ".new";
+    QByteArray bytes;
+    if (!RawRead(source, bytes)) return false;
+    Unlink(side);
+    if (!WriteData(side, bytes, lasting) || !Rename(side, target)) {
+        Unlink(side);
+        return false;
+    }
+    if (lasting && !SyncFolder(FolderOf(target))) return false;
+    return Unlink(source);
 }
 
 // The FAT hidden attribute, where the drive has one.
@@ -147,7 +234,8 @@ bool FolderExists(const QString& path) {
 bool MakeFolder(const QString& path) {
     if (!Step("mkdir", path)) return false;
     Log("mkdir", path);
-    return ::mkdir(Native(path).constData(), 0755) == 0;
+    if (::mkdir(Native(path).constData(), 0755) != 0) return false;
+    return !Lasting(path) || SyncFolder(FolderOf(path));
 }
 
 bool CopyFile(const QString& source, const QString& target) {
@@ -159,7 +247,7 @@ bool CopyFile(const QString& source, const QString& target) {
 bool Kill(const QString& path) {
     if (!Step("kill", path)) return false;
     Log("kill", path);
-    return ::unlink(Native(path).constData()) == 0;
+    return Unlink(path) && (!Lasting(path) || SyncFolder(FolderOf(path)));
 }
 
 bool KillIfExists(const QString& path) { return !FileExists(path) || Kill(path); }
@@ -169,14 +257,12 @@ bool MoveFile(const QString& source, const QString& target) {
     Log("move", source + " -> " + target);
     struct stat st;
     if (::lstat(Native(target).constData(), &st) == 0) return false;  // target exists
-    if (::rename(Native(source).constData(), Native(target).constData()) == 0) return true;
-    if (errno != EXDEV) return false;
-    // Another file system: the drive. Copy, then delete the source.
-    if (!RawCopy(source, target)) {
-        ::unlink(Native(target).constData());
-        return false;
-    }
-    return ::unlink(Native(source).constData()) == 0;
+    const bool lasting = Lasting(target);
+    if (!SameFileSystem(source, target)) return MoveAcross(source, target, lasting);
+    // The data before the name: a rename must never put in place a file
+    // whose content is still in memory only.
+    if (lasting && !SyncFile(source)) return false;
+    return Rename(source, target) && (!lasting || SyncFolder(FolderOf(target)));
 }
 
 bool ReadWholeFile(const QString& path, QByteArray& bytes) {
@@ -187,23 +273,21 @@ bool ReadWholeFile(const QString& path, QByteArray& bytes) {
 bool WriteWholeFile(const QString& path, const QByteArray& bytes) {
     if (!Step("write", path)) return false;
     Log("write", path);
-    return RawWrite(path, bytes);
+    return RawWrite(path, bytes, Lasting(path));
 }
 
 bool ReplaceFileContent(const QString& path, const QByteArray& bytes) {
     if (!Step("replace", path)) return false;
     Log("replace", path);
     const QString fresh = path + ".new";
-    ::unlink(Native(fresh).constData());
-    if (!RawWrite(fresh, bytes)) {
-        ::unlink(Native(fresh).constData());
+    const bool lasting = Lasting(path);
+    Unlink(fresh);
+    // The new content is flushed before the rename, the folder after it.
+    if (!WriteData(fresh, bytes, lasting) || !Rename(fresh, path)) {
+        Unlink(fresh);
         return false;
     }
-    if (::rename(Native(fresh).constData(), Native(path).constData()) != 0) {
-        ::unlink(Native(fresh).constData());
-        return false;
-    }
-    return true;
+    return !lasting || SyncFolder(FolderOf(path));
 }
 
 bool WritePrivateFile(const QString& path, const QByteArray& bytes) {
@@ -230,7 +314,9 @@ bool OutputFile::open(const QString& path, const char* kind, int flags) {
     Log(kind, path);
     fd_ = OpenForWriting(path, flags);
     path_ = path;
-    return fd_ >= 0;
+    if (fd_ < 0) return false;
+    Tell(FileEvent::Changed, path);
+    return true;
 }
 
 bool OutputFile::openForOutput(const QString& path) { return open(path, "output", O_TRUNC); }
@@ -240,7 +326,9 @@ bool OutputFile::openForBinary(const QString& path) { return open(path, "binary"
 bool OutputFile::write(const QByteArray& bytes) {
     if (fd_ < 0) return false;
     if (!Step("put", path_)) return false;
-    return WriteAll(fd_, bytes.constData(), bytes.size());
+    const bool ok = WriteAll(fd_, bytes.constData(), bytes.size());
+    Tell(FileEvent::Changed, path_);
+    return ok;
 }
 
 bool OutputFile::close() {
@@ -251,7 +339,10 @@ bool OutputFile::close() {
         ::close(fd);
         return false;
     }
-    return ::close(fd) == 0;
+    const bool lasting = Lasting(path_);
+    bool ok = !lasting || SyncData(fd, path_);
+    ok = ::close(fd) == 0 && ok;
+    return ok && (!lasting || SyncFolder(FolderOf(path_)));
 }
 
 void FailFileOperationAt(long k) {
@@ -273,3 +364,5 @@ void ClearFileOperationLog() {
     g_trace.clear();
 }
 QStringList FileOperationTrace() { return g_trace; }
+void SetFileEventWatcher(FileEventWatcher watcher) { g_watcher = std::move(watcher); }
+void SetFlushingForBench(bool on) { g_flush = on; }

@@ -4,11 +4,18 @@
 // a pulled drive or a full disk would, and where the order of writes can be
 // watched.
 //
+// What leaves the staging area lasts: a file written, copied or moved onto
+// the drive (or anywhere but the staging area) has its data flushed before
+// its name is put in place, and its folder flushed after, before the call
+// returns; a delete there flushes its folder. A pulled drive then holds, at
+// any moment, the old state or the new one of each step that returned.
+//
 // No file is opened through a symbolic link: the staging area is a shared
 // place on the local disk, and a planted link must not redirect a write.
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 // Existence as the store tests it: a regular file, whether read-only or
 // hidden or not. Folders and other kinds of file are not found. An empty
@@ -28,7 +35,8 @@ bool Kill(const QString& path);
 // or never was, false when the delete failed.
 bool KillIfExists(const QString& path);
 // Name: moves a file; fails when the target exists. Across file systems
-// it is a copy followed by a delete.
+// it is a copy to a side name beside the target (target + ".new"), renamed
+// into place once it lasts; the source is deleted last.
 bool MoveFile(const QString& source, const QString& target);
 
 bool ReadWholeFile(const QString& path, QByteArray& bytes);
@@ -84,3 +92,12 @@ QStringList FileOperationLog();
 void ClearFileOperationLog();
 // Every operation counted while logging is on, in order, as "kind path".
 QStringList FileOperationTrace();
+
+// Each change a call makes to the file system, told as it is made, for the
+// tests' simulation of a pulled drive: a file created or written (Changed),
+// its data flushed (Synced), a rename, a delete, a folder's names flushed.
+enum class FileEvent { Changed, Synced, Renamed, Removed, FolderSynced };
+using FileEventWatcher = std::function<void(FileEvent, const QString& path, const QString& target)>;
+void SetFileEventWatcher(FileEventWatcher watcher);  // empty: none
+// Off, no flush is made: for the benches that measure what the flushes cost.
+void SetFlushingForBench(bool on);

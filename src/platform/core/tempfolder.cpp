@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,14 +10,30 @@ namespace {
 QString g_testFolder;
 QString g_testSystemTemp;
 
-// A folder of ours: a real folder (not a link), owned by this user.
-bool UsableFolder(const QString& path) {
+enum class Folder { Missing, Ours, NotOurs };
+
+// Looks at a folder without following a link. One of this user's that
+// others may enter is closed to them (mode 0700); a link, a file, or a
+// folder of another user is not ours.
+Folder Inspect(const QString& path) {
     struct stat st;
-    if (::lstat(QFile::encodeName(path).constData(), &st) != 0) {
-        if (::mkdir(QFile::encodeName(path).constData(), 0700) != 0) return false;
-        return true;
+    if (::lstat(QFile::encodeName(path).constData(), &st) != 0) return Folder::Missing;
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (fd < 0) return Folder::NotOurs;
+    bool ours = ::fstat(fd, &st) == 0 && S_ISDIR(st.st_mode) && st.st_uid == ::getuid();
+    if (ours && (st.st_mode & 077) != 0) ours = ::fchmod(fd, 0700) == 0;
+    ::close(fd);
+    return ours ? Folder::Ours : Folder::NotOurs;
+}
+
+// A folder of ours, made when missing.
+bool UsableFolder(const QString& path) {
+    switch (Inspect(path)) {
+    case Folder::Missing: return ::mkdir(QFile::encodeName(path).constData(), 0700) == 0;
+    case Folder::Ours: return true;
+    case Folder::NotOurs: return false;
     }
-    return S_ISDIR(st.st_mode) && st.st_uid == ::getuid();
+    return false;
 }
 }  // namespace
 
@@ -34,6 +51,10 @@ bool EnsureTempArea() {
     const QString root = VellumarkFolder();
     QDir().mkpath(QFileInfo(root).absolutePath());  // the cache folder itself
     return UsableFolder(root) && UsableFolder(TempArea());
+}
+
+bool TempAreaRefused() {
+    return Inspect(VellumarkFolder()) == Folder::NotOurs || Inspect(TempArea()) == Folder::NotOurs;
 }
 
 QString SystemTempPath() {

@@ -9,8 +9,13 @@ QString TempArea();                        // VellumarkFolder() + "/temp"
 QString TempFile(const QString& name);     // TempArea() + "/" + name
 
 // Creates both folders when missing (mode 0700). False when they can't be
-// made, or when one of them is not a real folder of this user.
+// made, or when one of them is not a real folder of this user. A folder of
+// this user that others may enter is closed to them (mode 0700).
 bool EnsureTempArea();
+// True when one of the two folders is there but is not a real folder of
+// this user (a link, a file, another user's folder): the start fails then.
+// Tightens this user's own, as above.
+bool TempAreaRefused();
 
 // The system's temporary folder (GetTempPath): $TMPDIR, or /tmp.
 QString SystemTempPath();

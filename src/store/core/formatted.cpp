@@ -1,42 +1,48 @@
 #include "store/core/formatted.h"
 
-void AppendLine(QString& out, std::initializer_list<QStringView> fields) {
+namespace {
+template <typename Out, typename Field>
+void Join(Out& out, std::initializer_list<Field> fields) {
     bool first = true;
-    for (QStringView field : fields) {
-        if (!first) out += u',';
+    for (Field field : fields) {
+        if (!first) out += ',';
         first = false;
-        out += u'"';
+        out += '"';
         out += field;
-        out += u'"';
+        out += '"';
     }
-    out += QStringLiteral("\r\n");
+    out += "\r\n";
 }
+}  // namespace
+
+void AppendLine(QByteArray& out, std::initializer_list<QByteArrayView> fields) { Join(out, fields); }
+void AppendLine(QString& out, std::initializer_list<QStringView> fields) { Join(out, fields); }
 
 bool FieldReader::isDelimiter(qsizetype at) const {
-    const QChar c = text_[at];
-    return c == u',' || c == u'\r' || c == u'\n';
+    const char c = bytes_[at];
+    return c == ',' || c == '\r' || c == '\n';
 }
 
 void FieldReader::skipDelimiter() {
     if (atEnd()) return;
-    const QChar c = text_[pos_];
-    if (c == u',') {
+    const char c = bytes_[pos_];
+    if (c == ',') {
         ++pos_;
-    } else if (c == u'\r') {
+    } else if (c == '\r') {
         ++pos_;
-        if (!atEnd() && text_[pos_] == u'\n') ++pos_;
-    } else if (c == u'\n') {
+        if (!atEnd() && bytes_[pos_] == '\n') ++pos_;
+    } else if (c == '\n') {
         ++pos_;
     }
 }
 
-bool FieldReader::read(QStringView& field) {
-    while (!atEnd() && (text_[pos_] == u' ' || text_[pos_] == u'\t')) ++pos_;
+bool FieldReader::read(QByteArrayView& field) {
+    while (!atEnd() && (bytes_[pos_] == ' ' || bytes_[pos_] == '\t')) ++pos_;
     if (atEnd()) return false;
-    if (text_[pos_] == u'"') {
-        qsizetype close = text_.indexOf(u'"', pos_ + 1);
-        if (close < 0) close = text_.size();
-        field = text_.mid(pos_ + 1, close - pos_ - 1);
+    if (bytes_[pos_] == '"') {
+        qsizetype close = bytes_.indexOf('"', pos_ + 1);
+        if (close < 0) close = bytes_.size();
+        field = bytes_.sliced(pos_ + 1, close - pos_ - 1);
         pos_ = close + 1;
         // Whatever stands between the closing quote and the delimiter is dropped.
         while (!atEnd() && !isDelimiter(pos_)) ++pos_;
@@ -44,8 +50,8 @@ bool FieldReader::read(QStringView& field) {
         const qsizetype start = pos_;
         while (!atEnd() && !isDelimiter(pos_)) ++pos_;
         qsizetype end = pos_;
-        while (end > start && text_[end - 1] == u' ') --end;
-        field = text_.mid(start, end - start);
+        while (end > start && bytes_[end - 1] == ' ') --end;
+        field = bytes_.sliced(start, end - start);
     }
     skipDelimiter();
     return true;

@@ -1,27 +1,34 @@
 #pragma once
 // Formatted reading and writing of the index files, as the streaming
 // routines do it: fields in double quotes, separated by commas, CR LF after
-// each line.
+// each line. Both work on the file's bytes: no byte of a code page's double
+// byte character is a quote, a comma, a space or a line end, so the fields
+// come out the same as from the decoded text, and a field read is written
+// back byte for byte, whatever the code page makes of it.
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <QStringView>
 
 // Writes the fields between double quotes exactly as they stand (a double
 // quote inside a field is written as it is), joined by commas, and CR LF.
+void AppendLine(QByteArray& out, std::initializer_list<QByteArrayView> fields);
+// The same for text, in the ANSI code page.
 void AppendLine(QString& out, std::initializer_list<QStringView> fields);
 
-// Reads fields one at a time from the text of a file. A field in double
+// Reads fields one at a time from the bytes of a file. A field in double
 // quotes runs to the next double quote; a comma or a line end ends a field.
 // Line ends are separators like commas, so a short line takes its missing
-// fields from the next. Fields are views into the text.
+// fields from the next. Fields are views into the bytes.
 class FieldReader {
 public:
-    explicit FieldReader(QStringView text) : text_(text) {}
-    bool atEnd() const { return pos_ >= text_.size(); }
+    explicit FieldReader(QByteArrayView bytes) : bytes_(bytes) {}
+    bool atEnd() const { return pos_ >= bytes_.size(); }
     // False when there is nothing left to read: "input past end of file".
-    bool read(QStringView& field);
+    bool read(QByteArrayView& field);
 private:
     bool isDelimiter(qsizetype at) const;
     void skipDelimiter();
-    QStringView text_;
+    QByteArrayView bytes_;
     qsizetype pos_ = 0;
 };

@@ -37,14 +37,17 @@ bool Append(const QString& index, std::initializer_list<QStringView> fields) {
 
 enum class PastEnd { Fails, EndsFile };
 
+// The fields of a line read, as the file's bytes.
+using Fields = std::array<QByteArrayView, 3>;
 // Writes the line to keep for a line read (or nothing, to leave it out).
-using Fields = std::array<QStringView, 3>;
-using LineRule = std::function<void(QString& out, const Fields& fields)>;
+using LineRule = std::function<void(QByteArray& out, const Fields& fields)>;
 
 // Streams the work copy (file number 2) into the staged file (number 1),
-// line by line, by formatted reading and writing.
+// line by line, by formatted reading and writing. The lines are read and
+// compared as bytes: a line kept leaves as it came, and only a line the
+// routine writes anew is converted to the code page.
 bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd pastEnd,
-            const std::function<void(QString& out)>& tail = {}) {
+            const std::function<void(QByteArray& out)>& tail = {}) {
     const QString staged = StagedIndex(index);
     if (g_fileNumberOpen[1]) return false;
     OutputFile output;
@@ -54,10 +57,9 @@ bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd 
     QByteArray input;
     if (!ReadWholeFile(WorkCopy(index), input)) return false;
     Claim(2);
-    const QString text = FromAnsi(input);
-    FieldReader reader(text);
-    QString out;
-    out.reserve(text.size() + 64);
+    FieldReader reader(input);
+    QByteArray out;
+    out.reserve(input.size() + 64);
     bool endedEarly = false;
     while (!reader.atEnd() && !endedEarly) {
         Fields fields;
@@ -69,18 +71,22 @@ bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd 
         if (!endedEarly) rule(out, fields);
     }
     if (!endedEarly && tail) tail(out);
-    if (!output.write(ToAnsi(out)) || !output.close()) return false;
+    if (!output.write(out) || !output.close()) return false;
     Release(1);
     Release(2);
     if (endedEarly) return true;
     return FileExists(staged);
 }
 
+// A line kept as it was read.
+void Keep(QByteArray& out, const Fields& f, int fieldCount) {
+    if (fieldCount == 3) AppendLine(out, {f[0], f[1], f[2]});
+    else AppendLine(out, {f[0], f[1]});
+}
+
 LineRule RemoveWhere(int field, const ContactId& contactId, int fieldCount) {
-    return [=](QString& out, const Fields& f) {
-        if (f[field] == contactId) return;
-        if (fieldCount == 3) AppendLine(out, {f[0], f[1], f[2]});
-        else AppendLine(out, {f[0], f[1]});
+    return [field, id = contactId.toLatin1(), fieldCount](QByteArray& out, const Fields& f) {
+        if (f[field] != id) Keep(out, f, fieldCount);
     };
 }
 }  // namespace
@@ -98,32 +104,35 @@ bool AppendNameLine(const ContactId& contactId, const QString& name) {
 }
 
 bool ReplaceCatLine(const ContactId& contactId, const QString& country, const CategoryId& categoryId) {
-    return Stream("cat", 3, [&](QString& out, const Fields& f) {
-        if (f[2] != contactId) AppendLine(out, {f[0], f[1], f[2]});
-        else AppendLine(out, {country, categoryId, contactId});
+    const QByteArray id = contactId.toLatin1();
+    return Stream("cat", 3, [&](QByteArray& out, const Fields& f) {
+        if (f[2] != id) Keep(out, f, 3);
+        else AppendLine(out, {ToAnsi(country), ToAnsi(categoryId), id});
     }, PastEnd::Fails);
 }
 
 bool ReplaceCtyLine(const ContactId& contactId, const QString& country, const CategoryId& categoryId,
                     CtyReplace mode) {
-    const QString& second = mode == CtyReplace::CategoryIdInPlaceOfContact ? categoryId : contactId;
-    return Stream("cty", 2, [&](QString& out, const Fields& f) {
-        if (f[1] != contactId) AppendLine(out, {f[0], f[1]});
-        else AppendLine(out, {country, second});
+    const QByteArray id = contactId.toLatin1();
+    const QByteArray second = ToAnsi(mode == CtyReplace::CategoryIdInPlaceOfContact ? categoryId : contactId);
+    return Stream("cty", 2, [&](QByteArray& out, const Fields& f) {
+        if (f[1] != id) Keep(out, f, 2);
+        else AppendLine(out, {ToAnsi(country), second});
     }, PastEnd::Fails);
 }
 
 bool ReplaceNameLine(const ContactId& contactId, const QString& name, NameReplace mode) {
+    const QByteArray id = contactId.toLatin1();
     bool matched = false;
-    return Stream("name", 2, [&](QString& out, const Fields& f) {
-        if (f[0] != contactId) {
-            AppendLine(out, {f[0], f[1]});
+    return Stream("name", 2, [&](QByteArray& out, const Fields& f) {
+        if (f[0] != id) {
+            Keep(out, f, 2);
             return;
         }
         matched = true;
-        AppendLine(out, {f[0], name});
-    }, PastEnd::Fails, [&](QString& out) {
-        if (!matched && mode == NameReplace::AppendWhenMissing) AppendLine(out, {contactId, name});
+        AppendLine(out, {f[0], ToAnsi(name)});
+    }, PastEnd::Fails, [&](QByteArray& out) {
+        if (!matched && mode == NameReplace::AppendWhenMissing) AppendLine(out, {ToAnsi(contactId), ToAnsi(name)});
     });
 }
 
