@@ -46,8 +46,9 @@ QIcon TreeImage(int index) {
     if (index == 1) return style->standardIcon(QStyle::SP_DirClosedIcon);
     if (index == 2) return style->standardIcon(QStyle::SP_DirOpenIcon);
     // The root: the theme's address book, unless the theme has none or draws
-    // it as one of the category pictures, so that the root always stands out.
+    // it as one of the category pictures, or only in a format this Qt can't
+    // read (a theme of SVG alone), so that the root always stands out.
     const QIcon book = QIcon::fromTheme(QStringLiteral("x-office-address-book"));
-    if (!book.isNull() && !SamePicture(book, TreeImage(1)) && !SamePicture(book, TreeImage(2))) return book;
+    if (!book.isNull() && !book.pixmap(16).isNull() && !SamePicture(book, TreeImage(1)) && !SamePicture(book, TreeImage(2))) return book;
     return DrawnAddressBook();
 }
