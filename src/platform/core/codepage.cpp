@@ -31,9 +31,11 @@ struct Converters {
 
 const iconv_t kNoConverter = reinterpret_cast<iconv_t>(-1);
 
+// Made once and kept to the process's end with the converters it holds: a
+// converter is never closed, so the cache itself is never destroyed either.
 std::unordered_map<int, Converters>& ConverterCache() {
-    static std::unordered_map<int, Converters> cache;
-    return cache;
+    static auto* cache = new std::unordered_map<int, Converters>;
+    return *cache;
 }
 
 Converters& ConvertersFor(int codePage) {
