@@ -18,11 +18,9 @@ TEST(StoreFiles, AFirstStartMakesExactlyTheFirstRunFilesAndALaterOneOnlyWhatIsMi
         store.write(store.tempFile(name), "leftover");
     ASSERT_TRUE(EnsureStoreFiles());
     const QByteArray setting = store.file("setting.ini");
-    EXPECT_EQ(setting, "[Setting]\r\nLanguage=0409\r\nCharset=0\r\nCountry=113\r\n\r\n"
-                       "[Size]\r\nHeight=7260\r\nWidth=9930\r\n\r\n"
-                       "[Grid]\r\nColWidth0=2069.858\r\nColWidth1=3569.953\r\nColWidth2=1395.213\r\n"
-                       "ColWidth3=1619.717\r\nColWidth4=14.74016\r\nColWidth5=0\r\n\r\n"
-                       "[VSplitter]\r\nLeft=3190\r\n\r\n[VSplitter]\r\nLeft=4700\r\n\r\n"
+    EXPECT_EQ(setting, "[Setting]\r\nLanguage=0409\r\nCharset=0\r\nCountry=113\r\n\r\n[Size]\r\nHeight=7260\r\nWidth=9930\r\n\r\n"
+                       "[Grid]\r\nColWidth0=2069.858\r\nColWidth1=3569.953\r\nColWidth2=1395.213\r\nColWidth3=1619.717\r\n"
+                       "ColWidth4=14.74016\r\nColWidth5=0\r\n\r\n[VSplitter]\r\nLeft=3190\r\n\r\n[VSplitter]\r\nLeft=4700\r\n\r\n"
                        "[Skin]\r\nSkinFile=Skins\\default.skf\r\n");
     EXPECT_EQ(store.file("category.dat"), "\"00001\",\"Main\"\r\n");
     for (const char* index : {"cat.dat", "cty.dat", "name.dat"}) EXPECT_TRUE(store.exists(store.appFile(index))) << index;
@@ -41,16 +39,14 @@ TEST(StoreFiles, AFirstStartMakesExactlyTheFirstRunFilesAndALaterOneOnlyWhatIsMi
     EXPECT_EQ(store.file("setting.ini"), withoutLanguage);
     EXPECT_EQ(ReadLanguageId(), "");
     EXPECT_EQ(store.file("cat.dat"), "\"Norway\",\"00001\",\"00010\"\r\n");
-    EXPECT_TRUE(store.exists(store.appFile("cty.dat")));
-    EXPECT_EQ(store.file("cty.dat"), "");
+    EXPECT_TRUE(store.exists(store.appFile("cty.dat")) && store.file("cty.dat").isEmpty());
 }
 
 TEST(StoreFiles, AFirstStartOnADriveThatRefusesWritesFailsQuietly) {
     ScratchStore store;
     FailFileOperationOn("write " + store.appFile("setting.ini"));
     EXPECT_FALSE(EnsureStoreFiles());
-    EXPECT_FALSE(store.exists(store.appFile("setting.ini")));
-    EXPECT_FALSE(store.exists(store.appFile("category.dat")));
+    EXPECT_EQ(QDir(store.app()).entryList(QDir::Files), QStringList());  // not even category.dat
     EXPECT_EQ(ReadLanguageId(), "");  // so the start ends in the language message
 }
 
@@ -69,16 +65,12 @@ TEST(Settings, LongValuesGrowTheBuffer) {
 }
 
 TEST(Numbers, RoundedHalfToEvenOnReadingAndWrittenAsSinglePrecisionText) {
-    const std::pair<const char*, long> rows[] = {{"2069.858", 2070}, {"14.74016", 15}, {"2.5", 2}, {" -1 ", -1}};
-    for (const auto& [text, number] : rows) {
-        long value = 0;
-        EXPECT_TRUE(TextToLong(text, value) && value == number) << text;
-    }
     long value = 0;
+    const std::pair<const char*, long> rows[] = {{"2069.858", 2070}, {"14.74016", 15}, {"2.5", 2}, {" -1 ", -1}};
+    for (const auto& [text, number] : rows)
+        EXPECT_TRUE(TextToLong(text, value) && value == number) << text;
     qint16 small = 0;
     EXPECT_FALSE(TextToLong("", value) || TextToLong("12abc", value) || TextToInt16("40000", small));
     EXPECT_TRUE(TextToInt16("-32768", small));
-    EXPECT_EQ(SingleToText(7260), "7260");
-    EXPECT_EQ(SingleToText(2069.858), "2069.858");
-    EXPECT_EQ(SingleToText(12345678), "1.234568E+07");
+    EXPECT_EQ(SingleToText(7260) + " " + SingleToText(2069.858) + " " + SingleToText(12345678), "7260 2069.858 1.234568E+07");
 }

@@ -19,6 +19,14 @@ void Setting(const ScratchStore& store, const QByteArray& from, const QByteArray
     EnsureStoreFiles();
     store.put("setting.ini", store.file("setting.ini").replace(from, to));
 }
+
+// A scratch store, the libraries installed unless told, the boxes recorded.
+struct Start {
+    ScratchStore store;
+    MsgBoxScript boxes;
+    FrmMain* window = nullptr;
+    explicit Start(bool libraries = true) { if (libraries) InstallLibraries(store); }
+};
 }  // namespace
 
 class StartTest : public QObject {
@@ -33,10 +41,8 @@ private slots:
     }
 
     void firstStartInAnEmptyFolderRunsAndShutsDownCleanly() {
-        ScratchStore store;
-        InstallLibraries(store);
-        MsgBoxScript boxes;
-        FrmMain* window = nullptr;
+        Start s;
+        auto& [store, boxes, window] = s;
         QCOMPARE(Main(&window), StartResult::Started);
         QCOMPARE(boxes.count(), 0);  // the staging area could be written: no warning
         QCOMPARE(window->windowTitle() + "|" + OwnerName, QString("Tandry|User"));  // no OwnerInfo.ini on this drive
@@ -77,10 +83,9 @@ private slots:
         };
         for (const auto& row : rows) {
             init();
-            ScratchStore store;
-            if (row.libraries) InstallLibraries(store);
+            Start s(row.libraries);
+            auto& [store, boxes, window] = s;
             if (row.made) Setting(store, row.from, row.to);
-            MsgBoxScript boxes;
             QCOMPARE(Main(), StartResult::Refused);
             QCOMPARE(boxes.lines(), QStringList("Error|16|" + QString::fromLatin1(row.message)));
             QCOMPARE(boxes.last().buttons, int(MsgOkOnly));
@@ -90,10 +95,8 @@ private slots:
     }
 
     void aSecondInstanceIsRefusedAndTouchesNothing() {
-        ScratchStore store;
-        InstallLibraries(store);
-        MsgBoxScript boxes;
-        FrmMain* window = nullptr;
+        Start s;
+        auto& [store, boxes, window] = s;
         QCOMPARE(Main(&window), StartResult::Started);
         const QByteArray setting = store.file("setting.ini");
         QFile::remove(store.appFile("cat.dat"));  // a second start would make it anew
@@ -108,11 +111,9 @@ private slots:
     void aStoredCountryBeyondTheListOrNoNumberEndsTheStartSilently() {
         for (const char* country : {"Country=9999", "Country=abc"}) {
             init();
-            ScratchStore store;
-            InstallLibraries(store);
+            Start s;
+            auto& [store, boxes, window] = s;
             Setting(store, "Country=113", country);
-            MsgBoxScript boxes;
-            FrmMain* window = nullptr;
             QCOMPARE(Main(&window), StartResult::Failed);
             QVERIFY(!window && !TheMainWindow());
             QCOMPARE(boxes.count(), 0);
@@ -138,12 +139,10 @@ private slots:
 
     void aStagingFolderOfAnotherUserFailsTheStartBeforeTheStore() {
         if (::getuid() != 0) QSKIP("giving a folder to another user needs root");
-        ScratchStore store;
-        InstallLibraries(store);
+        Start s;
+        auto& [store, boxes, window] = s;
         QDir().mkpath(store.temp());
         QCOMPARE(::chown(QFile::encodeName(store.temp()).constData(), 65534, 65534), 0);
-        MsgBoxScript boxes;
-        FrmMain* window = nullptr;
         QCOMPARE(Main(&window), StartResult::Failed);
         QVERIFY(!window);
         QCOMPARE(boxes.count(), 0);
@@ -151,12 +150,10 @@ private slots:
     }
 
     void aStagingAreaThatCannotBeMadeIsOnlyWarnedOf() {
-        ScratchStore store;
-        InstallLibraries(store);
+        Start s;
+        auto& [store, boxes, window] = s;
         store.write(store.app() + "/../blocker", "x");  // a file where the folder should be
         SetVellumarkFolderForTest(store.app() + "/../blocker/Vellumark");
-        MsgBoxScript boxes;
-        FrmMain* window = nullptr;
         QCOMPARE(Main(&window), StartResult::Started);
         // No library could be copied, so every string is empty; the program runs all the same.
         QCOMPARE(boxes.lines(), QStringList("|48|"));

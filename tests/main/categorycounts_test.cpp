@@ -11,23 +11,21 @@
 #include "support/printers.h"
 #include "support/scratch.h"
 
-namespace {
 const QString kTwo = "\"00001\",\"Main\"\r\n\"00002\",\"Work\"\r\n";
 
-QString Rows(const QString& country, const QString& category, int times) {
+static QString Rows(const QString& country, const QString& category, int times) {
     QString text;
     for (int i = 0; i < times; ++i) text += "\"" + country + "\",\"" + category + "\",\"" + QString::number(i) + "\"\r\n";
     return text;
 }
 
 // The nodes as "key:text", and whether the routine reported success.
-QStringList Nodes(const QString& categories, const QString& cat, const QString& country) {
+static QStringList Nodes(const QString& categories, const QString& cat, const QString& country) {
     QList<CategoryNode> nodes;
     QStringList texts{CategoryNodesFromText(categories, cat, country, nodes) ? "ok" : "failed"};
     for (const CategoryNode& n : nodes) texts << n.key + ":" + n.text;
     return texts;
 }
-}  // namespace
 
 TEST(CategoryNodes, CountsTheRowsOfTheFilterCountryExactlyAndKeepWhatWasMadeOnAFailure) {
     const QString cat = "\"Norway\",\"00002\",\"00011\"\r\n\"NORWAY\",\"00001\",\"00012\"\r\n"
@@ -54,8 +52,7 @@ TEST(CategoryNodes, CountsTheRowsOfTheFilterCountryExactlyAndKeepWhatWasMadeOnAF
 }
 
 TEST(CategoryNodes, NameFromNodeTextCutsAtFirstParenthesis) {
-    const std::pair<const char*, const char*> rows[] = {
-        {"  Main (12) ", "Main"}, {" Club (old) (4) ", "Club"}, {"A(3)", ""}, {" Work ", "Work"}};
+    const std::pair<const char*, const char*> rows[] = {{"  Main (12) ", "Main"}, {" Club (old) (4) ", "Club"}, {"A(3)", ""}, {" Work ", "Work"}};
     for (const auto& [text, name] : rows) EXPECT_EQ(CategoryNameFromNodeText(text), QString(name)) << text;
     EXPECT_THROW(CategoryNameFromNodeText(" (12)"), RoutineFailure);
 }
@@ -65,21 +62,16 @@ TEST(ListRows, AFailureKeepsTheRowsAndTheSnapshotMayHoldAt32766Lines) {
     QDir().mkpath(store.appFile("data"));
     ClearContactBuffer();
     store.putRecord({"00011", "Åse Berg", "0", "00001", "", "", "", "", "", "", "Fjord AS", "", "", "", "ase@example.no"});
-    auto shown = [](const QList<ContactRow>& rows) {
-        QStringList text;
-        for (const ContactRow& r : rows) text << r.contactId + ":" + r.name + ":" + r.mail + ":" + r.company;
-        return text;
-    };
     QList<ContactRow> rows;
     EXPECT_FALSE(ContactRowsFromLines({"\"Norway\",\"00001\",\"00011\"", "\"Norway\",\"00001\""}, "Norway", "00001", rows));
-    EXPECT_EQ(shown(rows), QStringList({U("00011:Åse Berg:ase@example.no:Fjord AS")}));
+    ASSERT_EQ(rows.size(), 1);
+    const ContactRow& r = rows[0];
+    EXPECT_EQ(r.contactId + ":" + r.name + ":" + r.mail + ":" + r.company, U("00011:Åse Berg:ase@example.no:Fjord AS"));
     QStringList lines(32766, "\"Sweden\",\"00001\",\"00014\"");
     lines << "\"Norway\",\"00001\",\"00011\"";
     rows.clear();
-    EXPECT_FALSE(ContactRowsFromLines(lines, "Norway", "00001", rows));
-    EXPECT_TRUE(rows.isEmpty());
+    EXPECT_TRUE(!ContactRowsFromLines(lines, "Norway", "00001", rows) && rows.isEmpty());
     lines.removeFirst();
-    EXPECT_TRUE(ContactRowsFromLines(lines, "Norway", "00001", rows));
-    EXPECT_EQ(rows.size(), 1);
+    EXPECT_TRUE(ContactRowsFromLines(lines, "Norway", "00001", rows) && rows.size() == 1);
     ClearContactBuffer();
 }

@@ -43,8 +43,7 @@ private slots:
         // A row that reaches the drive after the snapshot isn't listed.
         s.store.put("cat.dat", Cp1252(kCat) + "\"Norway\",\"00001\",\"00014\"\r\n");
         s.clickNode("Main (3)");
-        QCOMPARE(s.rows(), QStringList({"anna|anna@example.no|Fjord AS|Skipper|00011", "Carl|carl@example.no|aker||00012",
-                                        "Bo|bo@example.no|Bergen Bank|Clerk|00013"}));
+        QCOMPARE(s.names(), QString("anna,Carl,Bo"));  // the columns stand in tst_categorytree
         QVERIFY(w.ListView1->columnWidth(4) <= 2);
         for (int i = 0; i < 3; ++i) QVERIFY((s.row(i)->flags() & Qt::ItemIsUserCheckable) && s.row(i)->checkState(0) == Qt::Unchecked);
         w.CopyAddrFile();
@@ -67,9 +66,14 @@ private slots:
         QCOMPARE(s.rows().first(), QString("Bo|bo@example.no|Bergen Bank|Clerk|00010"));
     }
 
-    void aSortStaysAcrossRefills() {
+    // A sort stays across refills; Select All and Invert Selection work on
+    // the check marks, and move the focus to the list even when it is empty.
+    void aSortStaysAcrossRefillsAndTheMarks() {
         ListStore s;
-        s.open();
+        FrmMain& w = s.open();
+        w.TreeView1->setFocus();
+        s.trigger("mnuSelectAll");
+        QCOMPARE(QApplication::focusWidget(), w.ListView1);
         s.clickNode("Main (3)");
         QStringList orders{s.names()};
         for (int column : {2, 2, -1, 0, 0, -2}) {  // -1 refills the list, -2 goes to Work and back
@@ -81,15 +85,6 @@ private slots:
         // Company as text without regard to case; the first click on "Contact Name" sorts it descending.
         QCOMPARE(orders, QStringList({"anna,Carl,Bo", "Carl,Bo,anna", "anna,Bo,Carl", "anna,Bo,Carl", "anna,Bo,Carl",
                                       "Carl,Bo,anna", "Carl,Bo,anna"}));
-    }
-
-    void selectAllAndInvertSelection() {
-        ListStore s;
-        FrmMain& w = s.open();
-        w.TreeView1->setFocus();
-        s.trigger("mnuSelectAll");  // on an empty list: nothing to mark, and the focus still moves
-        QCOMPARE(QApplication::focusWidget(), w.ListView1);
-        s.clickNode("Main (3)");
         s.trigger("mnuSelectAll");
         QCOMPARE(s.marks(), QString("xs xs xs"));
         s.trigger("mnuInvertSelection");
@@ -122,10 +117,9 @@ private slots:
 
         QSignalSpy deleteHandler(w.Entry("mnuDelete_info"), &QAction::triggered);
         QTest::keyClick(w.ListView1, Qt::Key_Delete);
-        QCOMPARE(deleteHandler.count(), 1);  // with no row checked: the guard
         QTest::keyClick(w.ListView1, Qt::Key_Backspace);
         QTest::keyClick(w.TreeView1, Qt::Key_Delete);
-        QCOMPARE(deleteHandler.count(), 1);  // the Delete key in the list only
+        QCOMPARE(deleteHandler.count(), 1);  // the Delete key in the list only; with no row checked: the guard
 
         // The double click reads the id from the file into a cleared buffer; the
         // menu's Edit reads into the buffer as it stands. Neither rebuilds the tree.

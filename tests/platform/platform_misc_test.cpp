@@ -51,8 +51,7 @@ TEST(Instance, OnlyAHolderOfThisUserCountsAndItsDeathReleasesTheClaim) {
         ReleaseInstanceClaim();
         EXPECT_FALSE(PrevInstance());
         ReleaseInstanceClaim();
-        ::close(ready[0]);
-        ::close(ready[1]);
+        ::close(ready[0]), ::close(ready[1]);
     }
     SetInstanceNameForTest(QString());
 }
@@ -62,14 +61,11 @@ TEST(Drive, OwnerInfoLiesAtTheTopOfTheApplicationFoldersFileSystem) {
     ASSERT_TRUE(QFile::link("/proc/self", store.appFile("link")));
     EXPECT_EQ(MountPointOf(store.appFile("link")), "/proc");  // links resolved
     EXPECT_EQ(MountPointOf("/proc/no/such/file"), "/proc");
-    EXPECT_EQ(OwnerInfoPath("/proc/self"), "/proc/Program/Bin/OwnerInfo.ini");
-    EXPECT_EQ(OwnerInfoPath("/"), "/Program/Bin/OwnerInfo.ini");
+    EXPECT_EQ(OwnerInfoPath("/proc/self") + " " + OwnerInfoPath("/"), "/proc/Program/Bin/OwnerInfo.ini /Program/Bin/OwnerInfo.ini");
 }
 
 TEST(SysInfo, SkinsBelongToMajorVersionFiveAndTheKernelIsReadAsItRuns) {
-    EXPECT_EQ(OsVersionCode(5, 1, true), -1);
-    EXPECT_EQ(OsVersionCode(5, 0, false), 0);
-    EXPECT_EQ(OsVersionCode(6, 1, false), 7);
+    EXPECT_EQ(QList<int>({OsVersionCode(5, 1, true), OsVersionCode(5, 0, false), OsVersionCode(6, 1, false)}), QList<int>({-1, 0, 7}));
     OsVersionInfo info;
     ASSERT_TRUE(GetOsVersion(info));
     struct utsname name;

@@ -7,18 +7,16 @@
 #include "support/printers.h"
 #include "support/scratch.h"
 
-namespace {
-LibraryHandle Library(const ScratchStore& store, const QByteArray& utf8) {
+static LibraryHandle Library(const ScratchStore& store, const QByteArray& utf8) {
     store.put("lib.dll", utf8);
     return LoadLibrary(store.appFile("lib.dll"));
 }
-QByteArray Lookup(LibraryHandle lib, int id, int limit = 383) {
+static QByteArray Lookup(LibraryHandle lib, int id, int limit = 383) {
     QByteArray buffer;
     const int n = LoadStringA(lib, id, buffer, limit);
     EXPECT_EQ(n, buffer.size()) << id;
     return buffer;
 }
-}  // namespace
 
 TEST(StringLibrary, LinesCommentsAndEscapes) {
     ScratchStore store;
@@ -42,8 +40,7 @@ TEST(StringLibrary, CutAt382BytesOfTheCodePage) {
                                                  "\n7=a" + QString(200, QChar(0x65E5)).toUtf8() + "\n");
     EXPECT_EQ(Lookup(lib, 1), QByteArray(382, 'a'));
     EXPECT_EQ(Lookup(lib, 2), QByteArray(382, '\xE9'));  // bytes, not UTF-8
-    EXPECT_EQ(Lookup(lib, 1, 10), QByteArray(9, 'a'));
-    EXPECT_EQ(Lookup(lib, 1, 1), QByteArray());
+    EXPECT_EQ(Lookup(lib, 1, 10) + "|" + Lookup(lib, 1, 1), QByteArray(9, 'a') + "|");
     SetAnsiCodePage(932);
     // 1 + 2 * 190 = 381 bytes fit in 382; the 191st character would not.
     EXPECT_EQ(Lookup(lib, 7), ToCodePage("a" + QString(190, QChar(0x65E5)), 932));

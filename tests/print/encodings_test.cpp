@@ -20,8 +20,7 @@ TEST(TextEncodings, WideCharactersAreWrittenOutWithUnsignedCodes) {
 
 TEST(TextEncodings, Base64DecodeAsTheMailDecoderReadsIt) {
     const std::pair<const char*, QByteArray> rows[] = {
-        {"QUJD", "ABC"}, {"QUI=", "AB"},
-        {"QQ", "A"},                                   // the text's end ends the group like a pad
+        {"QUJD", "ABC"}, {"QUI=", "AB"}, {"QQ", "A"},  // the text's end ends the group like a pad
         {"QQ==QUI=", "AAB"},                           // a pad ends its group, not the decoding
         {"QUJDAA==", "ABC"}, {"AAAA", QByteArray(2, '\0')},  // one last zero byte is dropped
         {"QU*D", ""},                                  // a character outside the alphabet: nothing
@@ -32,8 +31,7 @@ TEST(TextEncodings, Base64DecodeAsTheMailDecoderReadsIt) {
 
 TEST(TextEncodings, DecodeMimeWordsInUtf8AndBEncodingOnly) {
     const std::pair<const char*, const char*> rows[] = {
-        {"plain text", "plain text"},
-        {"=?UTF-8?B?QUI=?=", "=?UTF-8?B?QUI=?="},             // the mark is found with its case
+        {"plain text", "plain text"}, {"=?UTF-8?B?QUI=?=", "=?UTF-8?B?QUI=?="},  // the mark is found with its case
         {"Name: =?utf-8?B?w6lsw6h2ZQ==?=", "élève"},          // the text in front goes
         {"=?utf-8?B?QUI=?= =?utf-8?B?Q0Q=?=", "ABCD"},        // words join, the space between goes
         {"=?utf-8?B?QUJD=?utf-8?B?REVG?=", "ADEF"},           // a middle word loses two characters

@@ -11,20 +11,18 @@
 #include "support/printers.h"
 #include "support/scratch.h"
 
-namespace {
 // A conversion from a fresh module: the font scalars carry over between
 // calls otherwise, and the face never resets.
-QString Fresh(const QString& rtf, const QString& options = QString()) {
+static QString Fresh(const QString& rtf, const QString& options = QString()) {
     RtfModule = RtfState();
     return rtf2html(rtf, options);
 }
 
 // A body of RTF as the rich text box gives it, in its outer group.
-QString Body(const QString& rtf) { return QStringLiteral("{\\rtf1\\ansi ") + rtf + u'}'; }
-QString Body(const char* rtf) { return Body(U(rtf)); }
+static QString Body(const QString& rtf) { return QStringLiteral("{\\rtf1\\ansi ") + rtf + u'}'; }
+static QString Body(const char* rtf) { return Body(U(rtf)); }
 const QString kColours = U("{\\colortbl ;\\red255\\green0\\blue0;\\red0\\green128\\blue255;}");
 const QString kFonts = U("{\\fonttbl{\\f0\\fnil Arial;}{\\f1\\fnil\\fcharset0 Times New Roman;}}");
-}  // namespace
 
 TEST(Rtf2Html, FormatsOpenBeforeTextAndCloseAllAtEveryPiece) {
     const std::pair<QString, const char*> rows[] = {
@@ -38,11 +36,9 @@ TEST(Rtf2Html, FormatsOpenBeforeTextAndCloseAllAtEveryPiece) {
         {Body("\\b x}\\i y"), "<b>x</b><b><i>y</i></b>"},   // ... but one before a backslash goes with the text
         {Body("\\b"), "</b>"},                            // queued, never opened, still closed
         // Sizes in half-points: 12 and 17 are the normal size 2; 2 gives 1, which is written.
-        {Body("\\fs12 a\\fs17 b\\fs96 c\\fs2 d\\fs24 e"),
-         "ab<font size=8>c</font><font size=1>d</font><font size=4>e</font>"},
+        {Body("\\fs12 a\\fs17 b\\fs96 c\\fs2 d\\fs24 e"), "ab<font size=8>c</font><font size=1>d</font><font size=4>e</font>"},
         {Body(kColours + U("\\cf1 red\\cf0  plain")), "<font color=\"#FF0000\">red</font> plain"},
-        {Body(kColours + U("\\cf2\\fs24 x\\cf0 y")),
-         "<font color=\"#0080FF\" size=4>x</font><font size=4>y</font>"},
+        {Body(kColours + U("\\cf2\\fs24 x\\cf0 y")), "<font color=\"#0080FF\" size=4>x</font><font size=4>y</font>"},
         {Body("\\cf7 x"), "x"},                             // past the table, no colour: no tag
         // The face waits for the next \fs or \cf.
         {Body(kFonts + U("\\f1\\fs24 x\\f0 y")),
@@ -67,7 +63,7 @@ TEST(Rtf2Html, FormatsOpenBeforeTextAndCloseAllAtEveryPiece) {
 }
 
 TEST(Rtf2Html, OptionsMakeAPageWithItsTitleAndLineEnds) {
-    EXPECT_EQ(Fresh(Body("a\\par b"), "+CR +H +T=\"My Title\""),
+    EXPECT_EQ(Fresh(Body("a\\par b"), "+CR +H +T=\"My Title\""), 
               U("<HTML>\r\n<HEAD>\r\n<TITLE>MyTitle</TITLE>\r\n</HEAD>\r\n<BODY bgcolor=white text=black>\r\n"
                 "a<br>\r\nb\r\n</BODY>\r\n</HTML>"));
     EXPECT_EQ(Fresh(Body("a"), "+h +cr +I"), U("a"));  // options keep their case
@@ -86,11 +82,10 @@ TEST(Rtf2Html, AGroupCutPastPosition32767Overflows) {
     EXPECT_NO_THROW(Fresh(Body(text)));  // no group to cut, no replacement
 }
 
-namespace {
 // The text a browser shows of a page: tags gone, "<br>" a line break, a run
 // of white space one space, "&nbsp;" a space, "&#n;" its character (a
 // negative number is no reference and shows as written).
-QString PageText(QString html) {
+static QString PageText(QString html) {
     html.replace(QStringLiteral("<br>"), QStringLiteral("\x01"));
     html.remove(QRegularExpression(QStringLiteral("<[^>]*>")));
     html.replace(QRegularExpression(QStringLiteral("[ \t\r\n]+")), QStringLiteral(" "));
@@ -111,7 +106,7 @@ QString PageText(QString html) {
 // instruction). In files with LF line ends "\par" and the LF make one word
 // that the converter doesn't know, so those paragraphs run together.
 // "&#n;" for each n from `first` to `last`.
-std::string References(int first, int last) {
+static std::string References(int first, int last) {
     std::string text;
     for (int n = first; n <= last; ++n) text += "&#" + std::to_string(n) + ";";
     return text;
@@ -123,16 +118,14 @@ const std::pair<const char*, std::string> kRealFiles[] = {
     // From: http://unicode-table.com/en/#private-use-area / F700 and 16 private-use characters / F710 ... / F720 ...
     // (\u with a negative number: written as a negative reference, which no browser reads)
     {"rtfparserkit_testNegativeUnicode.rtf",
-     "Msftedit 5.41.21.2510;From: HYPERLINK \"http://unicode-table.com/en/#private-use-area\""
-     "http://unicode-table.com/en/#private-use-area\nF700" + References(-2304, -2289) + "\nF710" +
-     References(-2288, -2273) + "\nF720" + References(-2272, -2266)},
+     "Msftedit 5.41.21.2510;From: HYPERLINK \"http://unicode-table.com/en/#private-use-area\"http://unicode-table.com/en/"
+     "#private-use-area\nF700" + References(-2304, -2289) + "\nF710" + References(-2288, -2273) + "\nF720" + References(-2272, -2266)},
     // Tab A<tab>B / Tab A<tab>B / CR A / B / LF A / B / This is a line break. / Here is the new line. /
     // Emdash: — / Endash: – / Emspace / Enspace / Qmspace / Bullet: • / Lquote: ‘ / Rquote: ’ / “ / ”
     // (a backslash before CR or LF takes the "B" behind it into an unknown word)
     {"rtfparserkit_testSpecialChars.rtf",
      "Msftedit 5.41.21.2510;Tab AB\nTab A B\nCR A\nLF A\nThis is a line break.Here is the new line.\n"
-     "Emdash: \nEndash: \nEmspace: \nEnspace: \nQmspace: \nBullet: \nLquote: \nRquote: \nLdblquote: \n"
-     "Rdblquote:"},
+     "Emdash: \nEndash: \nEmspace: \nEnspace: \nQmspace: \nBullet: \nLquote: \nRquote: \nLdblquote: \nRdblquote:"},
     // Test 1 - normal. / Test 2 - italic. / ... / Test 7 - Calibri 11. (nothing dropped)
     {"rtfparserkit_testStyles.rtf",
      "Msftedit 5.41.21.2510;Test 1 - normal.\nTest 2 - italic.\nTest 3 - bold.\nTest 4 -normal.\n"
@@ -140,24 +133,21 @@ const std::pair<const char*, std::string> kRealFiles[] = {
     // Turkish Encoding.
     {"rtfparserkit_testTurkishEncoding_riched20-15.rtf", "Riched20 15.0.4567Turkish Encoding."},
     // Արամ / Johann Strauß / België<tab>René Magritte / বাংলা / ་ཡུལ། / ប្រទេសកម្ពុជា / ᓄᓇᕗᒻᒥᐅᑦ / 中国 / Česká republika
-    {"rtfparserkit_testUnicode.rtf",
-     "Msftedit 5.41.21.2510;Արամ\nJohann Strau\nBelgiRenMagritte\nবাংলা\n་ཡུལ།\n"
+    {"rtfparserkit_testUnicode.rtf", "Msftedit 5.41.21.2510;Արամ\nJohann Strau\nBelgiRenMagritte\nবাংলা\n་ཡུལ།\n"
      "ប្រទេស\u200B\u200B\u200Bកម្ពុជា\nᓄᓇᕗᒻᒥᐅᑦ\n\nrepublika"},
     // Overview of Policy/Claims, then an underlined run of spaces
     {"rtfpipe_Issue42_colour_bold.rtf", "Msftedit 5.41.21.2510;Overview of Policy/Claims"},
     // • A / • B / • C / 1) D (LF line ends)
     {"rtfpipe_Issue53_win10_wordpad.rtf", "Riched20 10.0.19041 ABC 1) D"},
     // Paragraph / • Bullet / • Bullet 2 / Paragraph 2 / 1. List 1 / 2. List 2
-    {"rtfpipe_List_win10_wordpad.rtf",
-     "Riched20 10.0.15063Paragraph\nBullet\nBullet 2\nParagraph 2\n1.List 1\n2.List 2"},
+    {"rtfpipe_List_win10_wordpad.rtf", "Riched20 10.0.15063Paragraph\nBullet\nBullet 2\nParagraph 2\n1.List 1\n2.List 2"},
     // バージョンアップ注文書（銀行振込） (Shift-JIS escapes, all dropped)
     {"rtfpipe_RtfParserTest_4_xp_japanese.rtf", "Msftedit 5.41.15.1507;"},
     // Übersicht (the escape takes the whole word)
     {"tika_testRTFUmlautSpaces.rtf", "Msftedit 5.41.21.2509;"},
     // 𐌲𐌿𐍄𐌹𐍃𐌺 (surrogate pairs as negative \u numbers)
     {"tika_testRTFUnicodeGothic.rtf",
-     "Msftedit 5.41.21.2509;&#-10240;&#-8398;&#-10240;&#-8385;&#-10240;&#-8380;&#-10240;&#-8391;&#-10240;&#-8381;"
-     "&#-10240;&#-8390;"},
+     "Msftedit 5.41.21.2509;&#-10240;&#-8398;&#-10240;&#-8385;&#-10240;&#-8380;&#-10240;&#-8391;&#-10240;&#-8381;&#-10240;&#-8390;"},
     // zażółć gęślą jaźń / ZAŻÓŁĆ GĘŚLĄ JAŹŃ (LF line ends)
     {"tika_testRTFWindowsCodepage1250.rtf", "Msftedit 5.41.15.1515;zagjaGJA"},
     // Článek týdne / Část svitku s textem Knihy Izajáš / Svitky od Mrtvého moře jsou starověké ... letopočtu.
@@ -167,7 +157,6 @@ const std::pair<const char*, std::string> kRealFiles[] = {
      "pvlastnknihovny a autory textbyli esejci, asketickapokalypticka mesianistickhnutv rjudaismu, kterpravdvzniklo "
      "v polovin2. stol. p\u2009n.\u2009l.a zaniklo nprvnvkoncem 60. let prvnstoletnaletopo"},
 };
-}  // namespace
 
 TEST(Rtf2Html, RealFilesGiveTheTextTheConverterKeeps) {
     const QDir folder(QStringLiteral(TANDRY_FIXTURES_DIR "/rtf"));

@@ -18,8 +18,7 @@ TEST(TextToHtml, EscapesReferencesMarkersAndLineBreaks) {
         {"\\x u?", "\\x u??"},                               // a backslash not before "u" stays
         {"\\u20013", "&#20013"},                             // no "?": the last character goes
         {"ftbold23298746ioAnn:end23298746io\r\n", "<font size=5><bold>Ann<bold></font><BR>"},
-        {"a283746vbcrlf36473b", "a<BR>&nbsp;b"},
-        {"", ""},
+        {"a283746vbcrlf36473b", "a<BR>&nbsp;b"}, {"", ""},
     };
     for (const auto& [text, html] : rows) EXPECT_EQ(TextToHtml(U(text)), U(html)) << text;
 }

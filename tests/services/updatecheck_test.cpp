@@ -19,8 +19,7 @@ TEST(UpdateCheck, EachEntryOverwritesWhatItHoldsAndOnlyEntriesCount) {
         {"<update><code>0</code><url>http://a</url></update><update><code>2</code></update>", "2|v|http://a"},
         {"</code>1<code></update>", "c|v|u"},                                          // marks out of order
         {"<code></code><url>x</update>", "|v|u"},                                      // empty code; url unclosed
-        {"<CODE>1</CODE></update>", "c|v|u"},                                          // the marks are case-sensitive
-        {"   ", "c|v|u"},
+        {"<CODE>1</CODE></update>", "c|v|u"}, {"   ", "c|v|u"},                        // the marks are case-sensitive
     };
     for (const auto& row : rows) {
         QString code = "c", version = "v", url = "u";

@@ -27,13 +27,6 @@ QString Kind(const QString& op) { return op.section(' ', 0, 0); }
 QString Base(const QString& op) { return op.section('/', -1); }
 QString Path(const QString& op) { return op.section(' ', 1); }
 
-// Position of the first operation at or after `from` that matches.
-int Find(const QStringList& trace, int from, const QString& op) {
-    for (int i = from; i < trace.size(); ++i)
-        if (trace[i] == op) return i;
-    return -1;
-}
-
 // An existence test that only decides whether to delete before a copy, an
 // output or an append of the same file: "not there" changes nothing.
 bool HarmlessExists(const QStringList& trace, int p) {
@@ -58,15 +51,11 @@ protected:
     QStringList order;    // the commit's order: cat.dat, cty.dat, name.dat, the record
     Snapshot before, after, now;  // the store before and after the whole write, and after the failed one
     StoreResult outcome;  // of the failed write
-    bool result = false;
 
     void SetUp() override { ReleaseFileNumbersForTest(); }
     void TearDown() override { ReleaseFileNumbersForTest(); }
 
-    void forContact(const QString& id) {
-        recordName = "data/addr" + id + ".b64";
-        order = {"cat.dat", "cty.dat", "name.dat", recordName};
-    }
+    void forContact(const QString& id) { order = {"cat.dat", "cty.dat", "name.dat", recordName = "data/addr" + id + ".b64"}; }
 
     void lay() {
         QDir(store.temp()).removeRecursively();
@@ -93,15 +82,12 @@ protected:
 
     // The failed write changed nothing on the drive and left `temp` behind.
     void unchanged(const QStringList& temp) const {
-        EXPECT_FALSE(result);
+        EXPECT_FALSE(outcome);
         EXPECT_EQ(now.live, before.live);
         EXPECT_EQ(now.temp, temp);
     }
     // The operation that failed changed nothing that mattered: the write went through.
-    void done() const {
-        EXPECT_TRUE(result);
-        EXPECT_EQ(now.live, after.live);
-    }
+    void done() const { EXPECT_TRUE(outcome && now.live == after.live); }
 
     // A failure at operation p of the commit: the files before the failing
     // one new, those after it old; the failing one old when its delete never
@@ -123,7 +109,7 @@ protected:
             if (want != Want::Missing && from.live.contains(order[i])) live[order[i]] = from.live[order[i]];
             if (i >= at && i < 3 && want != Want::New) waiting << "addr_" + order[i];
         }
-        EXPECT_FALSE(result);
+        EXPECT_FALSE(outcome);
         EXPECT_EQ(now.live, live);
         EXPECT_EQ(now.temp, waiting);
     }
@@ -146,7 +132,6 @@ protected:
             lay();
             FailFileOperationAt(k);
             outcome = Outcome(write());
-            result = bool(outcome);
             const QString failed = FailedFileOperation();
             FailFileOperationAt(0);
             now = snap();
@@ -159,11 +144,7 @@ protected:
 
 ContactForm NewForm() {
     ContactForm f;
-    f.name = U("  Åse Øvre ");
-    f.countryIndex = 5;
-    f.countryText = "Norway";
-    f.categoryId = "00002";
-    f.tel1 = "+47 22 00 00 00";
+    f.name = U("  Åse Øvre "), f.tel1 = "+47 22 00 00 00", f.countryIndex = 5, f.countryText = "Norway", f.categoryId = "00002";
     return f;
 }
 }  // namespace
@@ -175,9 +156,9 @@ TEST_F(FailureTable, NewContactLeavesWhatTheTablePromises) {
     const QString staged = store.tempFile("addr" + id + ".b64");
     sweep([&] { return SaveNewContact(NewForm()); }, [&](const QStringList& trace, int p) {
         const QString op = trace[p];
-        const int recordWrite = Find(trace, 0, "output " + staged);
-        const int check = Find(trace, recordWrite + 1, "exists " + staged);
-        const int commit = Find(trace, check + 1, "exists " + store.appFile("cat.dat"));
+        const int recordWrite = int(trace.indexOf("output " + staged));
+        const int check = int(trace.indexOf("exists " + staged, recordWrite + 1));
+        const int commit = int(trace.indexOf("exists " + store.appFile("cat.dat"), check + 1));
         ASSERT_TRUE(recordWrite >= 0 && check > recordWrite && commit > check);
         // An append first deletes an old staged index: "not there" changes nothing.
         const bool beforeAppend = Kind(op) == "exists" && op.endsWith(".dat") && Kind(trace[p + 1]) == "append";
@@ -192,7 +173,7 @@ TEST_F(FailureTable, NewContactLeavesWhatTheTablePromises) {
             // A failed staging deletes the work copies; each append then makes
             // a file of its one new line, and the commit puts those in place
             // of the whole indexes: the known weak point.
-            EXPECT_TRUE(result);
+            EXPECT_TRUE(outcome);
             const QByteArray i = id.toLatin1();
             EXPECT_EQ(now.live["cat.dat"], "\"Norway\",\"00002\",\"" + i + "\"\r\n");
             EXPECT_EQ(now.live["cty.dat"], "\"Norway\",\"" + i + "\"\r\n");
@@ -219,9 +200,9 @@ TEST_F(FailureTable, EditLeavesWhatTheTablePromises) {
     forContact("00010");
     const QString staged = store.tempFile("addr00010.b64");
     sweep([&] { return SaveEditedContact(form, "00010", true); }, [&](const QStringList& trace, int p) {
-        const int check = Find(trace, 3, "exists " + staged);
-        const int commit = Find(trace, check + 1, "exists " + store.appFile("cat.dat"));
-        const int discard = Find(trace, commit + 1, "exists " + store.tempFile("addr_cat.tmp"));
+        const int check = int(trace.indexOf("exists " + staged, 3));
+        const int commit = int(trace.indexOf("exists " + store.appFile("cat.dat"), check + 1));
+        const int discard = int(trace.indexOf("exists " + store.tempFile("addr_cat.tmp"), commit + 1));
         ASSERT_TRUE(check > 0 && commit > check && discard > commit);
         if (p < check && p >= 3 && HarmlessExists(trace, p)) {
             done();
@@ -252,17 +233,12 @@ TEST_F(FailureTable, EditLeavesWhatTheTablePromises) {
 TEST_F(FailureTable, RemovalLeavesWhatTheTablePromises) {
     forContact("00020");
     const QString staged = store.tempFile("addr00020.b64");
-    sweep(
-        [&] {
-            ClearContactBuffer();
-            ReadContactWithId("00020");
-            return RemoveContactFiles("00020");
-        },
+    sweep([&] { return ClearContactBuffer(), ReadContactWithId("00020"), RemoveContactFiles("00020"); },
         [&](const QStringList& trace, int p) {
             const QString op = trace[p];
-            const int stage = Find(trace, 0, "exists " + store.tempFile("addr_cat.tmp"));
-            const int remove = Find(trace, stage + 1, "output " + store.tempFile("addr_cat.dat"));
-            const int commit = Find(trace, remove + 1, "exists " + store.appFile("cat.dat"));
+            const int stage = int(trace.indexOf("exists " + store.tempFile("addr_cat.tmp")));
+            const int remove = int(trace.indexOf("output " + store.tempFile("addr_cat.dat"), stage + 1));
+            const int commit = int(trace.indexOf("exists " + store.appFile("cat.dat"), remove + 1));
             const int finalKill = int(trace.lastIndexOf("kill " + store.appFile(recordName)));
             ASSERT_TRUE(stage > 0 && remove > stage && commit > remove && finalKill > commit);
             // The record the commit puts back is the one read: the same bytes.
@@ -280,7 +256,7 @@ TEST_F(FailureTable, RemovalLeavesWhatTheTablePromises) {
                 commitFailure(trace, p, restored);
             } else if (p == finalKill) {
                 // All three indexes without the contact, its record still there.
-                EXPECT_FALSE(result);
+                EXPECT_FALSE(outcome);
                 EXPECT_EQ(now.live, restored.live);
                 EXPECT_EQ(now.temp, QStringList());
             } else {

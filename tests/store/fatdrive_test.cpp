@@ -18,10 +18,8 @@
 #include "support/printers.h"
 #include "support/scratch.h"
 
-namespace {
-bool OnFat() { return !ScratchDrive().isEmpty(); }
+static bool OnFat() { return !ScratchDrive().isEmpty(); }
 const char* const kWhere = "runs on a FAT image: ctest -R fat_drive";
-}  // namespace
 
 TEST(FatDrive, NamesDifferingOnlyInCaseAreOneFile) {
     if (!OnFat()) GTEST_SKIP() << kWhere;

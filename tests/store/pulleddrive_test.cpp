@@ -63,8 +63,7 @@ QStringList Ids(const Files& files, const QString& name) {
             if (name == "cat.dat") ids << SplitCatLine(text).contactId;
             else if (name == "name.dat") ids << SplitNameLine(text).id;
             else ids << StripEnds(text.section(u',', 0, 0));
-        } catch (const RoutineFailure&) {
-        }
+        } catch (const RoutineFailure&) {}
     }
     return ids;
 }
@@ -93,9 +92,7 @@ protected:
             name += QByteArray("\"") + id + "\"," + Cp1252("\"Åse ") + id + "\"\r\n";
             store.putRecord({id, U("Åse ") + id, "3", "00001", "+47 22"});
         }
-        store.put("cat.dat", cat);
-        store.put("cty.dat", cty);
-        store.put("name.dat", name);
+        store.put("cat.dat", cat), store.put("cty.dat", cty), store.put("name.dat", name);
         CopyAddrFile();
     }
     void TearDown() override { ReleaseFileNumbersForTest(); }
@@ -103,10 +100,7 @@ protected:
 
 ContactForm Form() {
     ContactForm f;
-    f.name = U("Ola Nordmann");
-    f.countryIndex = 4;
-    f.countryText = "Sweden";
-    f.categoryId = "00002";
+    f.name = "Ola Nordmann", f.countryIndex = 4, f.countryText = "Sweden", f.categoryId = "00002";
     return f;
 }
 }  // namespace
@@ -160,15 +154,9 @@ INSTANTIATE_TEST_SUITE_P(
         Road{"category add", [] { return AddCategoryLine("Friends"); }, {}},
         Road{"category rename", [] { return RenameCategoryLine("00002", "Job"); }, {}},
         Road{"category delete", [] { return RemoveCategoryLine("00002"); }, {"00002"}},
-        Road{"setting.ini at shut-down",
-             [] {
+        Road{"setting.ini at shut-down", [] {
                  bool ok = PutIniValue("Setting", "Country", "7", SettingFile());
                  for (const char* key : {"Height", "Width"}) ok = PutIniValue("Size", key, "8000", SettingFile()) && ok;
                  for (int i = 0; i < 5; ++i) ok = PutIniValue("Grid", QString("ColWidth%1").arg(i), "1500", SettingFile()) && ok;
-                 return PutIniValue("VSplitter", "Left", "3000", SettingFile()) && ok;
-             },
-             {}}),
-    [](const ::testing::TestParamInfo<Road>& info) {
-        QString name = QString(info.param.name).replace(QRegularExpression("[^A-Za-z]"), "_");
-        return name.toStdString();
-    });
+                 return PutIniValue("VSplitter", "Left", "3000", SettingFile()) && ok; }, {}}),
+    [](const auto& info) { return QString(info.param.name).replace(QRegularExpression("[^A-Za-z]"), "_").toStdString(); });

@@ -32,18 +32,15 @@ TEST_P(UntouchedLines, StayByteForByteThroughAnEditAndARemoval) {
     store.put("name.dat", "\"00010\",\"Ola\"\r\n" + name);
     store.putRecord({"00010", "Ola", "3", "00001"});
     ContactForm form;
-    form.name = "Ola N";
-    form.countryText = "Norway";
-    form.categoryId = "00001";
+    form.name = "Ola N", form.countryText = "Norway", form.categoryId = "00001";
     ASSERT_TRUE(SaveEditedContact(form, "00010", true));
-    EXPECT_EQ(store.file("cat.dat"), "\"Norway\",\"00001\",\"00010\"\r\n" + cat);
-    EXPECT_EQ(store.file("cty.dat"), "\"Norway\",\"00001\"\r\n" + cty);  // the category id in place of the contact's
-    EXPECT_EQ(store.file("name.dat"), "\"00010\",\"Ola N\"\r\n" + name);
+    const auto indexes = [&] { return QList<QByteArray>{store.file("cat.dat"), store.file("cty.dat"), store.file("name.dat")}; };
+    // cty.dat takes the category id in place of the contact's
+    EXPECT_EQ(indexes(), QList<QByteArray>({"\"Norway\",\"00001\",\"00010\"\r\n" + cat, "\"Norway\",\"00001\"\r\n" + cty,
+                                            "\"00010\",\"Ola N\"\r\n" + name}));
     ReadContactWithId("00010");
     ASSERT_TRUE(RemoveContactFiles("00010"));
-    EXPECT_EQ(store.file("cat.dat"), cat);
-    EXPECT_EQ(store.file("cty.dat"), "\"Norway\",\"00001\"\r\n" + cty);
-    EXPECT_EQ(store.file("name.dat"), name);
+    EXPECT_EQ(indexes(), QList<QByteArray>({cat, "\"Norway\",\"00001\"\r\n" + cty, name}));
     SetAnsiCodePage(1252);
 }
 
