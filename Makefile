@@ -1,6 +1,7 @@
 # The two commands: `make run` and `make test`. Both install what is
 # missing (Debian packages, through apt-get), build, and go on.
-PACKAGES := cmake make g++ qt6-base-dev libgtest-dev xvfb xauth fonts-dejavu-core poppler-utils
+PACKAGES := cmake make g++ qt6-base-dev libgtest-dev xvfb xauth fonts-dejavu-core poppler-utils \
+	libqt6sql6-sqlite libpff-dev libbfio-dev
 BUILD := build
 JOBS := $(shell nproc 2>/dev/null || echo 2)
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
