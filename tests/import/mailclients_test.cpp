@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <QDir>
 #include <QFile>
+#include <QSqlDatabase>
+#include <QSqlQuery>
 #include "import/core/outlookexpress.h"
 #include "platform/core/codepage.h"
 #include "platform/core/keldane.h"
@@ -51,17 +53,27 @@ TEST(MailClients, ThunderbirdBookOfTheDefaultProfileThroughTheProtocol) {
     if (!real.open(QIODevice::ReadOnly)) GTEST_SKIP() << "no real Thunderbird book at " << TANDRY_FIXTURES_DIR;
     ScratchHome home;
     home.put(".thunderbird/profiles.ini",
-             "[Profile1]\nName=old\nIsRelative=1\nPath=old.x\n\n[Profile0]\nName=main\nIsRelative=1\nPath=main.y\n\n"
+             "[Profile0]\nName=old\nIsRelative=1\nPath=old.x\n\n[Profile1]\nName=main\nIsRelative=1\nPath=main.y\n\n"
              "[Install4F96D1932A9F858E]\nDefault=main.y\n");
     const QByteArray book = real.readAll();
     home.put(".thunderbird/main.y/abook.sqlite", book);
-    home.put(".thunderbird/old.x/abook-1.sqlite", book);
+    {  // a book of the other profile, one card without a display name
+        QDir().mkpath(home.dir.filePath(".thunderbird/old.x"));
+        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "old");
+        db.setDatabaseName(home.dir.filePath(".thunderbird/old.x/abook-1.sqlite"));
+        ASSERT_TRUE(db.open());
+        QSqlQuery(db).exec("CREATE TABLE properties(card, name, value)");
+        QSqlQuery(db).exec("INSERT INTO properties VALUES ('c','LastName','Lee'),('c','DisplayName',''),"
+                           "('c','FirstName','Bo'),('c','PrimaryEmail','bo@x')");
+        db.close();
+    }
+    QSqlDatabase::removeDatabase("old");
     SetAnsiCodePage(1252);
     const QString four = QString::fromUtf8(
         "\"Jürgen Müller-Lüdenscheidt\",\"juergen.mueller@example.com\"\r\n"
         "\"Anna O'Neil\",\"anna.oneil@example.net\"\r\n\"?? ??\",\"taro.yamada@example.jp\"\r\n"
         "\"only-email@example.com\",\"only-email@example.com\"\r\n");
-    EXPECT_EQ(AddressText(), four + four);  // the default profile first, the list left out
+    EXPECT_EQ(AddressText(), four + "\"Bo Lee\",\"bo@x\"\r\n");  // the default profile first, the list left out
     EXPECT_EQ(QFileInfo(home.dir.filePath(".thunderbird/main.y/abook.sqlite")).size(), book.size());
     EXPECT_FALSE(QFile::exists(home.dir.filePath(".thunderbird/main.y/abook.sqlite-wal")));
 }
