@@ -19,6 +19,7 @@
 #include "platform/forms/getopenfilename.h"
 #include "store/core/snapshot.h"
 #include "support/formstore.h"
+#include "support/scratchhome.h"
 #include <algorithm>
 
 namespace {
@@ -109,19 +110,6 @@ struct RowsSource : ImportSource {
 void UseRows(const QList<QStringList>& rows) {
     SetImportSourcesForTest([rows](ImportKind) -> std::unique_ptr<ImportSource> { return std::make_unique<RowsSource>(rows); });
 }
-
-// A scratch home with the given files; HOME points at it while it lives.
-struct ScratchHome {
-    QTemporaryDir dir;
-    QByteArray oldHome = qgetenv("HOME");
-    ScratchHome() { qputenv("HOME", dir.path().toUtf8()); }
-    ~ScratchHome() { qputenv("HOME", oldHome); }
-    void put(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(dir.filePath(name)).path());
-        QFile f(dir.filePath(name));
-        if (f.open(QIODevice::WriteOnly)) f.write(bytes);
-    }
-};
 
 struct ImportStore : FormStore {
     ImportStore() { store.put("category.dat", kCategories); }
