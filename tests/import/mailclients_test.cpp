@@ -109,11 +109,25 @@ TEST(MailClients, ThunderbirdBookOfTheDefaultProfileThroughTheProtocol) {
     EXPECT_FALSE(QFile::exists(home.dir.filePath(".thunderbird/main.y/abook.sqlite-wal")));
 }
 
-TEST(MailClients, NoBookOrAnEmptyOneIsError10) {
+TEST(MailClients, EvolutionBooksAndError10) {
     ScratchHome home;
     EXPECT_EQ(AddressText(), "error 10");
+    const QString db = home.dir.filePath(".local/share/evolution/addressbook/system/contacts.db");
     home.put(".local/share/evolution/addressbook/system/contacts.db", "");
     EXPECT_EQ(AddressText(), "error 10");
+    {  // a contact with a folded name and two addresses, and a list
+        QSqlDatabase evo = QSqlDatabase::addDatabase("QSQLITE", "evo");
+        evo.setDatabaseName(db);
+        ASSERT_TRUE(evo.open());
+        for (const char* sql : {"CREATE TABLE folders(folder_id)", "INSERT INTO folders VALUES ('folder_id')",
+                                "CREATE TABLE folder_id(uid, vcard)",
+                                "INSERT INTO folder_id VALUES (1, 'BEGIN:VCARD\r\nFN:Ann\r\n  Lee\r\nEMAIL;TYPE=HOME:a@x\r\nEMAIL:b@x\r\nEND:VCARD')",
+                                "INSERT INTO folder_id VALUES (2, 'BEGIN:VCARD\r\nFN:Club\r\nX-EVOLUTION-LIST:TRUE\r\nEND:VCARD')"})
+            QSqlQuery(evo).exec(sql);
+        evo.close();
+    }
+    QSqlDatabase::removeDatabase("evo");
+    EXPECT_EQ(AddressText(), "\"Ann Lee\",\"a@x\"\r\n");
 }
 
 // LoadOutlookExpress over a protocol of the table's answers.
