@@ -2,7 +2,8 @@
 # missing (Debian packages, through apt-get), build, and go on. `make portable`
 # makes the folder for a stick.
 PACKAGES := cmake make g++ qt6-base-dev qt6-wayland patchelf libgtest-dev xvfb xauth xdotool \
-  fonts-dejavu-core poppler-utils dosfstools fusefat
+  fonts-dejavu-core poppler-utils dosfstools fusefat \
+  libqt6sql6-sqlite libpff-dev libbfio-dev
 # `make fuzz` alone needs these: clang and its fuzzer and sanitizer runtimes.
 FUZZ_PACKAGES := clang libclang-rt-dev
 FUZZ_BUILD := build-fuzz

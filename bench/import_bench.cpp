@@ -118,6 +118,7 @@ QString FreshStore(const QString& scratch, const QString& name) {
 struct CountingSink : SourceSink {
     int rows = 0;
     void ShowCount(int, int) override {}
+    void ClearCount() override {}
     void AddRow(const SourceRow&) override { ++rows; }
 };
 }  // namespace

@@ -7,6 +7,7 @@ namespace {
 class Rows : public SourceSink {
 public:
     void ShowCount(int, int) override {}
+    void ClearCount() override {}
     void AddRow(const SourceRow&) override {}
 };
 }  // namespace

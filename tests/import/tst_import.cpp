@@ -19,6 +19,7 @@
 #include "platform/forms/getopenfilename.h"
 #include "store/core/snapshot.h"
 #include "support/formstore.h"
+#include "support/scratchhome.h"
 #include <algorithm>
 
 namespace {
@@ -276,12 +277,53 @@ private slots:
         QCOMPARE(s.records(), QStringList());
     }
 
-    void mailClientsNotReadYet() {  // frmsync closes, frmsync1 stays open, empty
+    // A home without address books: 611 and frmsync closes; the Outlook
+    // file dialog cancelled: 624 and frmsync1 stays open, empty.
+    void noAddressBookAndNoOutlookFile() {
         ImportStore s;
+        ScratchHome home;
+        ChooseFile(s, "", "");
         QVERIFY(!RunForm(ImportKind::OE, [](ImportSession&) {}) && RunForm(ImportKind::MSO, [](ImportSession&) {}));
         QCOMPARE(s.boxes.lines(), QStringList({"Tandry|48|No contacts were found in the Outlook Express address book.",
                                                "Tandry - Error|48|The contacts could not be read from Microsoft Outlook.\r\n"
                                                "Please make sure Microsoft Outlook is installed and set up on this computer."}));
+    }
+
+    // The real Thunderbird book in a scratch home, imported into Work: name
+    // and e-mail, no notes= line; the real PST: its six contacts go to a new
+    // category named for their folder.
+    void realMailClients() {
+        const QString book = TANDRY_FIXTURES_DIR "/thunderbird/generated_tb153esr/abook.sqlite";
+        const QString pst = TANDRY_FIXTURES_DIR "/pst/aspose_SampleContacts.pst";
+        if (!QFile::exists(book) || !QFile::exists(pst)) QSKIP("no real address books at " TANDRY_FIXTURES_DIR);
+        ImportStore s;
+        ScratchHome home;
+        home.put(".thunderbird/profiles.ini", "[Profile0]\nName=a\nIsRelative=1\nPath=p\nDefault=1\n");
+        QFile real(book);
+        QVERIFY(real.open(QIODevice::ReadOnly));
+        home.put(".thunderbird/p/abook.sqlite", real.readAll());
+        RunForm(ImportKind::OE, [&](ImportSession& f) {
+            QCOMPARE(Cells(f.ListView1, {2, 3}), QStringList({"?? ??|taro.yamada@example.jp", "Anna O'Neil|anna.oneil@example.net",
+                                                              U("Jürgen Müller-Lüdenscheidt|juergen.mueller@example.com"),
+                                                              "only-email@example.com|only-email@example.com"}));
+            AddAll(f, 1);
+            QTest::mouseClick(f.cmdOK, Qt::LeftButton);
+        });
+        QCOMPARE(s.records().size(), 4);
+        for (const QString& file : s.records()) {
+            const QByteArray record = s.store.file("data/" + file);
+            QVERIFY(record.contains("\r\ncategory=00002\r\n") && record.contains("@example.") && !record.contains("notes="));
+        }
+        SetOpenFileNameHandlerForTest([pst](const QString&, const QString&) { return pst; });
+        RunForm(ImportKind::MSO, [&](ImportSession& f) {
+            QCOMPARE(f.ListView1->topLevelItemCount(), 6);
+            AddAll(f, 0);
+            QTest::mouseClick(f.cmdOK, Qt::LeftButton);
+        });
+        QVERIFY(s.store.file("category.dat").contains(",\"Contacts\"\r\n"));
+        QCOMPARE(s.records().size(), 10);
+        const QString done = "Tandry|64|The import has finished. All contacts of the final list have been written.";
+        QCOMPARE(s.boxes.lines(), QStringList({done, done}));
     }
 
     // The same file twice into one category and country replaces each

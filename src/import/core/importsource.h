@@ -15,6 +15,8 @@ public:
     virtual ~SourceSink() = default;
     // picCount shows "current / total", then the window queue runs once.
     virtual void ShowCount(int current, int total) = 0;
+    // picCount emptied at the end of a read.
+    virtual void ClearCount() = 0;
     virtual void AddRow(const SourceRow& row) = 0;
 };
 

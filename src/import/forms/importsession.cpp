@@ -248,6 +248,8 @@ void ImportSession::ShowCount(int current, int total) {
     QCoreApplication::processEvents();
 }
 
+void ImportSession::ClearCount() { picCount->clear(); }
+
 void ImportSession::AddRow(const SourceRow& row) {
     QTreeWidgetItem* item = NewListView1Item(ListView1->topLevelItemCount() + 1);
     for (int i = 0; i < row.size() && i + 2 < ListView1->columnCount(); ++i) item->setText(i + 2, row[i]);

@@ -54,6 +54,7 @@ protected:
 
 private:
     void ShowCount(int current, int total) override;
+    void ClearCount() override;
     void AddRow(const SourceRow& row) override;
 
     void LoadSteps();

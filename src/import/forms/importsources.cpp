@@ -4,7 +4,11 @@
 #include "app/core/libraries.h"
 #include "app/core/placeholders.h"
 #include "import/core/csvsources.h"
+#include "import/core/outlookexpress.h"
+#include "import/core/outlookfolders.h"
+#include "categories/forms/frmupdatecat.h"
 #include "platform/core/appversion.h"
+#include "platform/core/keldane.h"
 #include "platform/core/msgbox.h"
 #include "platform/forms/getopenfilename.h"
 #include "store/core/text.h"
@@ -15,15 +19,26 @@ SourceFactory& TestSources() {
     return factory;
 }
 
-// A mail client's address book that isn't read: found empty (true), or not
-// found at all (false).
-class UnreadAddressBook : public ImportSource {
+// The desktop's address books through the address-book protocol.
+class AddressBookSource : public ImportSource {
 public:
-    explicit UnreadAddressBook(bool found) : found_(found) {}
-    bool Load(SourceSink&) override { return found_; }
+    bool Load(SourceSink& sink) override { return LoadOutlookExpress(sink, GetAddress11); }
+};
+
+// Where Outlook would be started, the user picks an Outlook data file; a
+// cancel is Outlook's absence. The folders become categories at once.
+class OutlookDataFileSource : public ImportSource {
+public:
+    explicit OutlookDataFileSource(QWidget* form) : form_(form) {}
+    bool Load(SourceSink& sink) override {
+        const QString path = GetOpenFileName(form_->isVisible() ? form_ : form_->parentWidget(), form_->windowTitle(),
+                                             QStringLiteral("*.pst *.ost"));
+        if (path.isEmpty()) return false;
+        return LoadOutlookFolders(OpenOutlookDataFile(path), sink, AddCatMSO);
+    }
 
 private:
-    bool found_;
+    QWidget* form_;
 };
 
 // A CSV file chosen by the user and read by its reader. The form is not
@@ -56,8 +71,8 @@ QString ChooseCsvFile(QWidget* owner) {
 std::unique_ptr<ImportSource> SourceFor(ImportKind kind, QWidget* form) {
     if (TestSources()) return TestSources()(kind);
     switch (kind) {
-    case ImportKind::OE: return std::make_unique<UnreadAddressBook>(true);
-    case ImportKind::MSO: return std::make_unique<UnreadAddressBook>(false);
+    case ImportKind::OE: return std::make_unique<AddressBookSource>();
+    case ImportKind::MSO: return std::make_unique<OutlookDataFileSource>(form);
     case ImportKind::Yahoo: return std::make_unique<CsvFileSource>(ReadYahooFile, form);
     case ImportKind::Incredi: return std::make_unique<CsvFileSource>(ReadIncrediFile, form);
     }

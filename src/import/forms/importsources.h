@@ -1,7 +1,6 @@
 #pragma once
 // The source each import form reads, and the way a test hands a form
-// another. The mail clients are not read yet: until they are, frmsync
-// finds an empty address book and frmsync1 no Outlook.
+// another.
 #include <QString>
 #include <functional>
 #include <memory>
