@@ -18,10 +18,7 @@ class HandStore : public ::testing::Test {
 protected:
     ScratchStore store;
     void SetUp() override {
-        EnsureTempArea();
-        QDir().mkpath(store.appFile("data"));
-        ReleaseFileNumbersForTest();
-        ResetRandomForTest();
+        store.readyForWrites();
         store.put("category.dat", Cp1252("\"00001\",\"Main\"\r\n\"00002\",\"Café\"\r\n\"00003\",\"North,South\"\r\n"));
         store.put("cat.dat", Cp1252("\"Deutschland\",\"00002\",\"00011\"\r\n\"France\",\"00001\",\"00012\"\r\n"
                                     "\"Deutschland\",\"00001\",\"00013\"\r\n"));

@@ -79,10 +79,7 @@ class PulledDriveRoads : public ::testing::TestWithParam<Road> {
 protected:
     ScratchStore store;
     void SetUp() override {
-        EnsureTempArea();
-        QDir().mkpath(store.appFile("data"));
-        ReleaseFileNumbersForTest();
-        ResetRandomForTest();
+        store.readyForWrites();
         EnsureStoreFiles();
         store.put("category.dat", "\"00001\",\"Main\"\r\n\"00002\",\"Work\"\r\n");
         QByteArray cat, cty, name;

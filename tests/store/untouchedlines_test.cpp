@@ -20,9 +20,7 @@ class UntouchedLines : public ::testing::TestWithParam<Bytes> {};
 
 TEST_P(UntouchedLines, StayByteForByteThroughAnEditAndARemoval) {
     ScratchStore store;
-    EnsureTempArea();
-    QDir().mkpath(store.appFile("data"));
-    ReleaseFileNumbersForTest();
+    store.readyForWrites();
     SetAnsiCodePage(GetParam().codePage);
     const QByteArray o = GetParam().other;
     const QByteArray cat = "\"" + o + "\",\"00002\",\"00020\"\r\n", cty = "\"" + o + "\",\"00020\"\r\n",

@@ -7,6 +7,8 @@
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
 #include "platform/core/tempfolder.h"
+#include "store/core/genid.h"
+#include "store/core/indexfiles.h"
 
 QString ScratchDrive() { return qEnvironmentVariable("TANDRY_SCRATCH_DRIVE"); }
 
@@ -67,4 +69,11 @@ QByteArray RecordBytes(const QStringList& values) {
 
 void ScratchStore::putRecord(const QStringList& values) const {
     put("data/addr" + values.value(0) + ".b64", RecordBytes(values));
+}
+
+void ScratchStore::readyForWrites() const {
+    EnsureTempArea();
+    QDir().mkpath(appFile("data"));
+    ReleaseFileNumbersForTest();
+    ResetRandomForTest();
 }

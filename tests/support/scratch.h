@@ -26,6 +26,9 @@ public:
     void put(const QString& name, const QByteArray& bytes) const { write(appFile(name), bytes); }
     // data/addr<values[0]>.b64 written from RecordBytes(values).
     void putRecord(const QStringList& values) const;
+    // Ready for the store's writes: the staging area and data/ made, the id
+    // generator at its start and no file number held.
+    void readyForWrites() const;
 private:
     QTemporaryDir dir_;
     QString app_;
