@@ -3,6 +3,7 @@
 #include <QFile>
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
 #include <dirent.h>
 #include <fcntl.h>
 #include <linux/msdos_fs.h>
@@ -22,8 +23,13 @@ QStringList g_log;
 QStringList g_trace;
 bool g_flush = true;
 FileEventWatcher g_watcher;
+FileChangeListener g_changeListener = nullptr;
 
 void Tell(FileEvent event, const QString& path, const QString& target = QString()) {
+    if (g_changeListener && event != FileEvent::FolderSynced) {
+        g_changeListener(path);
+        if (!target.isEmpty()) g_changeListener(target);
+    }
     if (g_watcher) g_watcher(event, path, target);
 }
 
@@ -217,6 +223,24 @@ bool FileExists(const QString& path) {
     return path.isEmpty() ? WorkingFolderHoldsAFile() : StatRegular(path, st);
 }
 
+bool FileExistsWithStamp(const QString& path, FileStamp& stamp) {
+    if (!Step("exists", path)) return false;
+    struct stat st;
+    if (path.isEmpty() || !StatRegular(path, st)) return false;
+    stamp.size = st.st_size;
+    stamp.modifiedNs = qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
+    stamp.changedNs = qint64(st.st_ctim.tv_sec) * 1000000000 + st.st_ctim.tv_nsec;
+    stamp.device = st.st_dev;
+    stamp.inode = st.st_ino;
+    return true;
+}
+
+qint64 FileClockNowNs() {
+    timespec now;
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return qint64(now.tv_sec) * 1000000000 + now.tv_nsec;
+}
+
 bool NormalFileExists(const QString& path) {
     if (!Step("exists", path)) return false;
     struct stat st;
@@ -366,3 +390,4 @@ void ClearFileOperationLog() {
 QStringList FileOperationTrace() { return g_trace; }
 void SetFileEventWatcher(FileEventWatcher watcher) { g_watcher = std::move(watcher); }
 void SetFlushingForBench(bool on) { g_flush = on; }
+void SetFileChangeListener(FileChangeListener listener) { g_changeListener = listener; }

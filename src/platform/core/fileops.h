@@ -25,6 +25,24 @@ bool FileExists(const QString& path);
 // or hidden file is not seen.
 bool NormalFileExists(const QString& path);
 bool FolderExists(const QString& path);
+
+// What tells one state of a file from another without reading it: its
+// size, its modification and change times, and which file it is. A
+// program that writes a file anew (by a rename over it, or a copy) gives
+// it another identity; one that rewrites it in place changes its times.
+struct FileStamp {
+    qint64 size = -1;
+    qint64 modifiedNs = 0;
+    qint64 changedNs = 0;
+    quint64 device = 0;
+    quint64 inode = 0;
+    bool operator==(const FileStamp&) const = default;
+};
+// The existence test of FileExists (the same operation, as the seam counts
+// it), telling also the file's stamp when it is found.
+bool FileExistsWithStamp(const QString& path, FileStamp& stamp);
+// Now, on the clock the file times are kept in, in nanoseconds.
+qint64 FileClockNowNs();
 bool MakeFolder(const QString& path);  // one level
 
 // FileCopy: the target is replaced if it exists.
@@ -99,5 +117,10 @@ QStringList FileOperationTrace();
 enum class FileEvent { Changed, Synced, Renamed, Removed, FolderSynced };
 using FileEventWatcher = std::function<void(FileEvent, const QString& path, const QString& target)>;
 void SetFileEventWatcher(FileEventWatcher watcher);  // empty: none
+// Told the path of every file this process creates, writes, renames (both
+// names) or deletes, whatever the seam is doing: what a reader keeps of a
+// file it read can be let go when the program itself changes the file.
+using FileChangeListener = void (*)(const QString& path);
+void SetFileChangeListener(FileChangeListener listener);  // nullptr: none
 // Off, no flush is made: for the benches that measure what the flushes cost.
 void SetFlushingForBench(bool on);

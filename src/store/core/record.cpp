@@ -5,6 +5,7 @@
 #include "platform/core/numbers.h"
 #include "platform/core/profile.h"
 #include "store/core/paths.h"
+#include "store/core/recordsummaries.h"
 #include "store/core/text.h"
 
 ContactRecord ContactBuffer;
@@ -17,10 +18,12 @@ namespace {
 // profile call would give for it, or empty when missing.
 class RecordKeys {
 public:
-    explicit RecordKeys(const QString& path) { ReadProfileSection("Setting", path, values_); }
+    explicit RecordKeys(const QString& path) : read_(ReadProfileSection("Setting", path, values_)) {}
     QString operator()(const char* key) const { return values_.value(QString::fromLatin1(key)); }
+    bool read() const { return read_; }
 private:
     ProfileValues values_;
+    bool read_;
 };
 }  // namespace
 
@@ -89,8 +92,30 @@ bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const cha
     return true;
 }
 
+namespace {
+RecordSummary ReadSummary(const QString& path, const FileStamp& stamp) {
+    const qint64 readAt = FileClockNowNs();
+    const RecordKeys Key(path);
+    const RecordSummary summary{Key("infoname"), Key("mail"), Key("category"), Key("company"), Key("designation")};
+    if (Key.read()) KeepSummary(path, stamp, readAt, summary);
+    return summary;
+}
+}  // namespace
+
+// The list reads thousands of these after every save: a record it read
+// before and that has not changed since is not read again.
 bool ReadContactSummary(const ContactId& contactId) {
-    return ReadContactKeys(contactId, {"infoname", "mail", "category", "company", "designation"});
+    const QString path = RecordPath(contactId);
+    FileStamp stamp;
+    if (!FileExistsWithStamp(path, stamp)) return false;
+    const RecordSummary* kept = KeptSummary(path, stamp);
+    const RecordSummary summary = kept ? *kept : ReadSummary(path, stamp);
+    ContactBuffer.infoname = summary.infoname;
+    ContactBuffer.mail = summary.mail;
+    ContactBuffer.category = summary.category;
+    ContactBuffer.company = summary.company;
+    ContactBuffer.designation = summary.designation;
+    return true;
 }
 
 QString EncodeFieldText(const QString& text) {
