@@ -56,3 +56,20 @@ bool FieldReader::read(QByteArrayView& field) {
     skipDelimiter();
     return true;
 }
+
+bool FieldReader::readPlainLine(QByteArrayView* fields, int count) {
+    qsizetype at = pos_;
+    for (int i = 0; i < count; ++i) {
+        if (at >= bytes_.size() || bytes_[at] != '"') return false;
+        const qsizetype close = bytes_.indexOf('"', at + 1);
+        if (close < 0) return false;
+        fields[i] = bytes_.sliced(at + 1, close - at - 1);
+        at = close + 1;
+        const bool last = i == count - 1;
+        const QByteArrayView after = last ? QByteArrayView("\r\n") : QByteArrayView(",");
+        if (!bytes_.sliced(at).startsWith(after)) return false;
+        at += after.size();
+    }
+    pos_ = at;
+    return true;
+}

@@ -26,6 +26,12 @@ public:
     bool atEnd() const { return pos_ >= bytes_.size(); }
     // False when there is nothing left to read: "input past end of file".
     bool read(QByteArrayView& field);
+    // Reads `count` fields at once when they stand as formatted writing
+    // puts them, "a","b","c" and CR LF, none holding a double quote: the
+    // bytes read are then exactly the line AppendLine would write of the
+    // fields. Otherwise false, and nothing is read.
+    bool readPlainLine(QByteArrayView* fields, int count);
+    qsizetype position() const { return pos_; }
 private:
     bool isDelimiter(qsizetype at) const;
     void skipDelimiter();

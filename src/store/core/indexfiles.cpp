@@ -39,13 +39,30 @@ enum class PastEnd { Fails, EndsFile };
 
 // The fields of a line read, as the file's bytes.
 using Fields = std::array<QByteArrayView, 3>;
-// Writes the line to keep for a line read (or nothing, to leave it out).
-using LineRule = std::function<void(QByteArray& out, const Fields& fields)>;
+
+// Which lines a routine changes: those whose field `field` is `id`. A line
+// that matches is handed to onMatch, which writes what stands in its place
+// (or nothing, to leave it out); every other line is kept.
+struct LineRule {
+    int field;
+    QByteArray id;
+    std::function<void(QByteArray& out, const Fields& fields)> onMatch;
+};
+
+// A line kept that didn't stand as formatted writing puts it is written
+// anew from its fields.
+void Keep(QByteArray& out, const Fields& f, int fieldCount) {
+    if (fieldCount == 3) AppendLine(out, {f[0], f[1], f[2]});
+    else AppendLine(out, {f[0], f[1]});
+}
 
 // Streams the work copy (file number 2) into the staged file (number 1),
 // line by line, by formatted reading and writing. The lines are read and
 // compared as bytes: a line kept leaves as it came, and only a line the
-// routine writes anew is converted to the code page.
+// routine writes anew is converted to the code page. The kept lines that
+// already stand as formatted writing would put them are copied in runs, so
+// that a change of one line in a large file costs little more than the
+// copy of the file.
 bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd pastEnd,
             const std::function<void(QByteArray& out)>& tail = {}) {
     const QString staged = StagedIndex(index);
@@ -60,16 +77,26 @@ bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd 
     FieldReader reader(input);
     QByteArray out;
     out.reserve(input.size() + 64);
+    qsizetype runStart = 0;  // the plain lines kept from here on are not yet copied
     bool endedEarly = false;
     while (!reader.atEnd() && !endedEarly) {
+        const qsizetype lineStart = reader.position();
         Fields fields;
-        for (int i = 0; i < fieldCount && !endedEarly; ++i) {
+        const bool plain = reader.readPlainLine(fields.data(), fieldCount);
+        for (int i = 0; !plain && i < fieldCount && !endedEarly; ++i) {
             if (reader.read(fields[i])) continue;
             if (pastEnd == PastEnd::Fails) return false;
             endedEarly = true;
         }
-        if (!endedEarly) rule(out, fields);
+        const bool matches = !endedEarly && fields[rule.field] == rule.id;
+        if (plain && !matches) continue;
+        out.append(QByteArrayView(input).sliced(runStart, lineStart - runStart));
+        runStart = reader.position();
+        if (endedEarly) break;
+        if (matches) rule.onMatch(out, fields);
+        else Keep(out, fields, fieldCount);
     }
+    if (!endedEarly) out.append(QByteArrayView(input).sliced(runStart, reader.position() - runStart));
     if (!endedEarly && tail) tail(out);
     if (!output.write(out) || !output.close()) return false;
     Release(1);
@@ -78,16 +105,8 @@ bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd 
     return FileExists(staged);
 }
 
-// A line kept as it was read.
-void Keep(QByteArray& out, const Fields& f, int fieldCount) {
-    if (fieldCount == 3) AppendLine(out, {f[0], f[1], f[2]});
-    else AppendLine(out, {f[0], f[1]});
-}
-
-LineRule RemoveWhere(int field, const ContactId& contactId, int fieldCount) {
-    return [field, id = contactId.toLatin1(), fieldCount](QByteArray& out, const Fields& f) {
-        if (f[field] != id) Keep(out, f, fieldCount);
-    };
+LineRule RemoveWhere(int field, const ContactId& contactId) {
+    return {field, contactId.toLatin1(), [](QByteArray&, const Fields&) {}};
 }
 }  // namespace
 
@@ -105,47 +124,41 @@ bool AppendNameLine(const ContactId& contactId, const QString& name) {
 
 bool ReplaceCatLine(const ContactId& contactId, const QString& country, const CategoryId& categoryId) {
     const QByteArray id = contactId.toLatin1();
-    return Stream("cat", 3, [&](QByteArray& out, const Fields& f) {
-        if (f[2] != id) Keep(out, f, 3);
-        else AppendLine(out, {ToAnsi(country), ToAnsi(categoryId), id});
-    }, PastEnd::Fails);
+    return Stream("cat", 3, {2, id, [&](QByteArray& out, const Fields&) {
+        AppendLine(out, {ToAnsi(country), ToAnsi(categoryId), id});
+    }}, PastEnd::Fails);
 }
 
 bool ReplaceCtyLine(const ContactId& contactId, const QString& country, const CategoryId& categoryId,
                     CtyReplace mode) {
     const QByteArray id = contactId.toLatin1();
     const QByteArray second = ToAnsi(mode == CtyReplace::CategoryIdInPlaceOfContact ? categoryId : contactId);
-    return Stream("cty", 2, [&](QByteArray& out, const Fields& f) {
-        if (f[1] != id) Keep(out, f, 2);
-        else AppendLine(out, {ToAnsi(country), second});
-    }, PastEnd::Fails);
+    return Stream("cty", 2, {1, id, [&](QByteArray& out, const Fields&) {
+        AppendLine(out, {ToAnsi(country), second});
+    }}, PastEnd::Fails);
 }
 
 bool ReplaceNameLine(const ContactId& contactId, const QString& name, NameReplace mode) {
     const QByteArray id = contactId.toLatin1();
     bool matched = false;
-    return Stream("name", 2, [&](QByteArray& out, const Fields& f) {
-        if (f[0] != id) {
-            Keep(out, f, 2);
-            return;
-        }
+    return Stream("name", 2, {0, id, [&](QByteArray& out, const Fields& f) {
         matched = true;
         AppendLine(out, {f[0], ToAnsi(name)});
-    }, PastEnd::Fails, [&](QByteArray& out) {
+    }}, PastEnd::Fails, [&](QByteArray& out) {
         if (!matched && mode == NameReplace::AppendWhenMissing) AppendLine(out, {ToAnsi(contactId), ToAnsi(name)});
     });
 }
 
 bool RemoveCatLine(const ContactId& contactId) {
-    return Stream("cat", 3, RemoveWhere(2, contactId, 3), PastEnd::Fails);
+    return Stream("cat", 3, RemoveWhere(2, contactId), PastEnd::Fails);
 }
 
 bool RemoveCtyLine(const ContactId& contactId) {
-    return Stream("cty", 2, RemoveWhere(1, contactId, 2), PastEnd::Fails);
+    return Stream("cty", 2, RemoveWhere(1, contactId), PastEnd::Fails);
 }
 
 bool RemoveNameLine(const ContactId& contactId) {
-    return Stream("name", 2, RemoveWhere(0, contactId, 2), PastEnd::EndsFile);
+    return Stream("name", 2, RemoveWhere(0, contactId), PastEnd::EndsFile);
 }
 
 CatLine SplitCatLine(const QString& line) {
