@@ -22,10 +22,7 @@ QTreeWidgetItem* MakeNode(const QString& key, const QString& text, int image, in
     node->setData(0, kNodeKeyRole, key);
     node->setData(0, kImageRole, image);
     node->setData(0, kSelectedImageRole, selectedImage);
-    QIcon icon;
-    icon.addPixmap(TreeImage(image).pixmap(16, 16), QIcon::Normal);
-    icon.addPixmap(TreeImage(selectedImage).pixmap(16, 16), QIcon::Selected);
-    node->setIcon(0, icon);
+    node->setIcon(0, NodeIcon(image, selectedImage));
     return node;
 }
 

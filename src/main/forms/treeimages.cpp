@@ -1,6 +1,8 @@
 #include "main/forms/treeimages.h"
 
 #include <QApplication>
+#include <QHash>
+#include <QPointer>
 #include <QImage>
 #include <QPainter>
 #include <QPixmap>
@@ -51,4 +53,20 @@ QIcon TreeImage(int index) {
     const QIcon book = QIcon::fromTheme(QStringLiteral("x-office-address-book"));
     if (!book.isNull() && !book.pixmap(16).isNull() && !SamePicture(book, TreeImage(1)) && !SamePicture(book, TreeImage(2))) return book;
     return DrawnAddressBook();
+}
+
+QIcon NodeIcon(int image, int selectedImage) {
+    static QPointer<QStyle> madeFor;
+    static QHash<int, QIcon> icons;
+    if (madeFor != QApplication::style()) {
+        icons.clear();
+        madeFor = QApplication::style();
+    }
+    const int key = image * 16 + selectedImage;
+    auto found = icons.constFind(key);
+    if (found != icons.constEnd()) return *found;
+    QIcon icon;
+    icon.addPixmap(TreeImage(image).pixmap(16, 16), QIcon::Normal);
+    icon.addPixmap(TreeImage(selectedImage).pixmap(16, 16), QIcon::Selected);
+    return icons.insert(key, icon).value();
 }

@@ -4,3 +4,8 @@
 #include <QIcon>
 
 QIcon TreeImage(int index);
+
+// A node's icon: `image` normally, `selectedImage` while it is selected, at
+// 16 pixels. Made once per pair and style: the tree is rebuilt after every
+// change of the store, and the theme's pictures are slow to look up.
+QIcon NodeIcon(int image, int selectedImage);
