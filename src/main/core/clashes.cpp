@@ -1,5 +1,7 @@
 #include "main/core/clashes.h"
 
+#include <QHash>
+
 #include "store/core/categories.h"
 #include "store/core/failure.h"
 #include "store/core/indexfiles.h"
@@ -10,6 +12,15 @@
 namespace {
 QString WithoutQuotes(QString text) { return text.remove(u'"'); }
 QString CrLf(const QString& item) { return item + QStringLiteral("\r\n"); }
+
+// The rows of cat.dat by their contact id (quotes removed), in file order.
+// A batch looks up hundreds of contacts among tens of thousands of rows.
+QHash<QString, QList<qsizetype>> RowsByContact(const QStringList& contacts) {
+    QHash<QString, QList<qsizetype>> rows;
+    rows.reserve(contacts.size());
+    for (qsizetype row = 0; row < contacts.size(); ++row) rows[WithoutQuotes(contacts[row])].append(row);
+    return rows;
+}
 }  // namespace
 
 QStringList Items(const QString& text) {
@@ -51,16 +62,17 @@ QString WindowArrays::CategoryIdOf(const QString& name) const {
     return at < 0 ? QString() : arrCatId[at];
 }
 
+// Each taken contact with its first row.
 void WindowArrays::TakeRows() {
+    const QHash<QString, QList<qsizetype>> rowsOf = RowsByContact(arrRowContact);
     for (qsizetype i = 0; i < arrSelId.size(); ++i) {
-        for (qsizetype row = 0; row < arrRowContact.size(); ++row) {
-            if (WithoutQuotes(arrRowContact[row]) != arrSelId[i]) continue;
-            strNames += CrLf(arrSelName[i]);
-            strIds += CrLf(arrSelId[i]);
-            strCategories += CrLf(arrRowCategory[row]);
-            strCountries += CrLf(arrRowCountry[row]);
-            break;
-        }
+        const auto found = rowsOf.constFind(arrSelId[i]);
+        if (found == rowsOf.constEnd()) continue;
+        const qsizetype row = found->first();
+        strNames += CrLf(arrSelName[i]);
+        strIds += CrLf(arrSelId[i]);
+        strCategories += CrLf(arrRowCategory[row]);
+        strCountries += CrLf(arrRowCountry[row]);
     }
 }
 
@@ -78,18 +90,24 @@ void WindowArrays::CheckClashes(const QString& categoryId) {
     strClashIds.clear();
     strClashOldIds.clear();
     strFreeIds.clear();
+    // name.dat's lines by their name in capitals, in file order.
+    QHash<QString, QList<qsizetype>> namesByText;
+    namesByText.reserve(arrNameText.size());
+    for (qsizetype j = 0; j < arrNameText.size(); ++j) namesByText[arrNameText[j].toUpper()].append(j);
+    const QHash<QString, QList<qsizetype>> rowsOf = RowsByContact(arrRowContact);
     for (qsizetype i = 0; i < ids.size(); ++i) {
         bool clash = false;
-        for (qsizetype j = 0; j < arrNameId.size() && !clash; ++j) {
-            if (arrNameText[j].toUpper() != names[i].toUpper() || arrNameId[j] == ids[i]) continue;
-            for (qsizetype row = 0; row < arrRowContact.size() && !clash; ++row) {
-                clash = WithoutQuotes(arrRowContact[row]) == arrNameId[j] &&
-                        WithoutQuotes(arrRowCategory[row]) == categoryId && arrRowCountry[row] == countries[i];
+        for (const qsizetype j : namesByText.value(names[i].toUpper())) {
+            if (arrNameId[j] == ids[i]) continue;
+            for (const qsizetype row : rowsOf.value(arrNameId[j])) {
+                clash = WithoutQuotes(arrRowCategory[row]) == categoryId && arrRowCountry[row] == countries[i];
+                if (clash) break;
             }
             if (clash) {
                 strClashNames += CrLf(names[i]);
                 strClashIds += CrLf(ids[i]);
                 strClashOldIds += CrLf(arrNameId[j]);
+                break;
             }
         }
         if (!clash) strFreeIds += CrLf(ids[i]);

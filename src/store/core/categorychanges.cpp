@@ -1,5 +1,7 @@
 #include "store/core/categorychanges.h"
 
+#include <QHash>
+
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
 #include "store/core/categories.h"
@@ -115,13 +117,16 @@ bool CategoryContacts(const CategoryId& id, QStringList& contactIds) {
 bool ContactNames(const QStringList& contactIds, QStringList& names) {
     QStringList lines;
     if (!ReadWholeFileLines(LiveIndex("name"), lines)) return false;
-    QList<NameLine> nameLines;
-    for (const QString& line : lines) nameLines << SplitNameLine(line);
-    for (const QString& id : contactIds)
-        for (const NameLine& line : nameLines)
-            if (line.id == id) {
-                names << line.name;
-                break;
-            }
+    // The first line of each id is the one that names it.
+    QHash<QString, QString> nameOf;
+    nameOf.reserve(lines.size());
+    for (const QString& line : lines) {
+        const NameLine name = SplitNameLine(line);
+        if (!nameOf.contains(name.id)) nameOf.insert(name.id, name.name);
+    }
+    for (const QString& id : contactIds) {
+        const auto found = nameOf.constFind(id);
+        if (found != nameOf.constEnd()) names << *found;
+    }
     return true;
 }
