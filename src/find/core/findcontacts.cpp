@@ -2,6 +2,7 @@
 
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
+#include "platform/core/keeppainting.h"
 #include "store/core/failure.h"
 #include "store/core/paths.h"
 #include "store/core/text.h"
@@ -58,6 +59,7 @@ void Find(const Search& search, const QString& query, const QStringList& countri
     const QString lowerQuery = query.toLower();
     qint64 row = 1;
     for (qsizetype i = 0; i < nameLines.size(); ++i) {
+        KeepWindowPainting();  // every record may be read: seconds on a stick
         const QStringList parts = nameLines[i].split(u',');
         const ContactId lineId = StripEnds(Element(parts, 0));
         const QString lineName = StripEnds(Element(parts, 1));

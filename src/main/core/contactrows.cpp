@@ -1,5 +1,6 @@
 #include "main/core/contactrows.h"
 
+#include "platform/core/keeppainting.h"
 #include "store/core/failure.h"
 #include "store/core/indexfiles.h"
 #include "store/core/record.h"
@@ -10,6 +11,7 @@ bool ContactRowsFromLines(const QStringList& lines, const QString& country,
     if (lines.size() > kMaxListLines) return false;
     try {
         for (const QString& line : lines) {
+            KeepWindowPainting();
             const CatLine row = SplitCatLine(line);
             if (row.country != country || row.categoryId != categoryId) continue;
             ReadContactSummary(row.contactId);
