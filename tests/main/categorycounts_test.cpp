@@ -4,8 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QFile>
+#include <QThread>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include "main/core/categorycounts.h"
 #include "main/core/contactrows.h"
+#include "platform/core/fileops.h"
 #include "store/core/failure.h"
 #include "store/core/record.h"
 #include "support/printers.h"
@@ -73,5 +78,50 @@ TEST(ListRows, AFailureKeepsTheRowsAndTheSnapshotMayHoldAt32766Lines) {
     EXPECT_TRUE(!ContactRowsFromLines(lines, "Norway", "00001", rows) && rows.isEmpty());
     lines.removeFirst();
     EXPECT_TRUE(ContactRowsFromLines(lines, "Norway", "00001", rows) && rows.size() == 1);
+    ClearContactBuffer();
+}
+
+// A refill opens only the records that changed since it last read them, and
+// sees every change: the program's own, one made in place with the old
+// modification time put back, and a file renamed over the record.
+TEST(ListRows, ARefillReadsAgainOnlyTheRecordsThatChanged) {
+    ScratchStore store;
+    QDir().mkpath(store.appFile("data"));
+    const QStringList ids = {"00011", "00012", "00013", "00014"};
+    QStringList lines;
+    for (const QString& id : ids) {
+        store.putRecord({id, "Name " + id});
+        lines << "\"Norway\",\"00001\",\"" + id + "\"";
+    }
+    // What a store holds has aged past the file system's time step.
+    QThread::msleep(2100);
+    const auto refill = [&](QStringList& names) {
+        ClearContactBuffer();
+        QList<ContactRow> rows;
+        SetFileOperationLogging(true);
+        ClearFileOperationLog();
+        EXPECT_TRUE(ContactRowsFromLines(lines, "Norway", "00001", rows));
+        SetFileOperationLogging(false);
+        names.clear();
+        for (const ContactRow& row : rows) names << row.name;
+        return FileOperationTrace().filter(QStringLiteral("read ")).size();
+    };
+    QStringList names;
+    refill(names);
+    EXPECT_EQ(refill(names), 0);
+    const QString path = store.appFile("data/addr00012.b64");
+    const QString other = store.appFile("data/addr00013.b64");
+    struct stat old;
+    ASSERT_EQ(::stat(QFile::encodeName(path).constData(), &old), 0);
+    QByteArray bytes = store.read(path);
+    bytes.replace("Name 00012", "Eman 00012");
+    store.write(path, bytes);  // in place, the same size
+    const timespec times[2] = {old.st_atim, old.st_mtim};
+    ASSERT_EQ(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0), 0);
+    store.write(store.appFile("data/new.b64"), RecordBytes({"00013", "Mane 00013"}));
+    ASSERT_TRUE(QFile::remove(other) && QFile::rename(store.appFile("data/new.b64"), other));
+    ASSERT_TRUE(WriteWholeFile(store.appFile("data/addr00014.b64"), RecordBytes({"00014", "Own 00014"})));
+    EXPECT_EQ(refill(names), 3);
+    EXPECT_EQ(names, QStringList({"Name 00011", "Eman 00012", "Mane 00013", "Own 00014"}));
     ClearContactBuffer();
 }
