@@ -23,7 +23,11 @@ QElapsedTimer& SinceQueueRan() {
 }  // namespace
 
 void KeepWindowPainting() {
-    if (!QCoreApplication::instance() || SinceQueueRan().elapsed() < kEveryMs) return;
+    if (SinceQueueRan().elapsed() >= kEveryMs) PaintWindowsNow();
+}
+
+void PaintWindowsNow() {
+    if (!QCoreApplication::instance()) return;
     // Neither input nor timers nor sockets: the window system's other
     // events and what is posted, the paints among them.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::ExcludeSocketNotifiers |
