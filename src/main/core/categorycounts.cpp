@@ -24,13 +24,6 @@ Fields FirstTwoFields(const QString& line) {
     return {StripEnds(Element(parts, 0)), StripEnds(Element(parts, 1))};
 }
 
-// StripEnds on a view: one character is a failure, empty stays empty.
-QStringView StripEndsOfView(QStringView text) {
-    if (text.isEmpty()) return text;
-    if (text.size() == 1) throw RoutineFailure("StripEnds: one character");
-    return text.mid(1, text.size() - 2);
-}
-
 // Node keys are unique in the tree: a second category of the same id can't
 // be added.
 void AddNode(QList<CategoryNode>& nodes, QSet<QString>& keys, const QString& id,

@@ -15,6 +15,12 @@ QString StripEnds(const QString& text) {
     return text.mid(1, text.size() - 2);
 }
 
+QStringView StripEndsOfView(QStringView text) {
+    if (text.isEmpty()) return text;
+    if (text.size() == 1) throw RoutineFailure("Invalid procedure call or argument");
+    return text.mid(1, text.size() - 2);
+}
+
 const QString& Element(const QStringList& parts, int i) {
     if (i < 0 || i >= parts.size()) throw RoutineFailure("Subscript out of range");
     return parts[i];

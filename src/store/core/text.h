@@ -11,6 +11,8 @@ QString TrimSpaces(const QString& text);
 // Takes off the first and the last character, whatever they are. Empty
 // text stays empty; one character is a failure (RoutineFailure).
 QString StripEnds(const QString& text);
+// The same on a view of a line, for the walks of whole index files.
+QStringView StripEndsOfView(QStringView text);
 
 // Element i of a split, or a failure when the split is shorter.
 const QString& Element(const QStringList& parts, int i);
