@@ -74,12 +74,10 @@ private slots:
             QTest::mouseClick(Control<QPushButton>(&dlg, "cmdSave"), Qt::LeftButton);
             after << Shown(dlg) << QString::number(QApplication::focusWidget() == dlg.txtname);
             QTest::keyClicks(dlg.txtname, "Kari");  // a second contact, in the country it started with
-            ExpectModal([](Form* other) { qWarning("%s opened", qPrintable(other->objectName())); });
             QTest::keyClick(dlg.txtname, Qt::Key_Return);
             after << QString::number(dlg.isVisible());
         });
         ShowModal(&dlg);
-        QCOMPARE(PendingModalScripts(), 1);  // Enter opened no other dialog
         QCOMPARE(s.boxes.lines(), QStringList());
         // emptied with country and category kept, the focus in the name, open
         QCOMPARE(after, QStringList(12, QString()) + QStringList({norway, "1", "1", "1"}));
