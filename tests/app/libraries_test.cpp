@@ -1,10 +1,9 @@
 // The string libraries: working copies in the staging area, look-up by
-// number, placeholders, and the content the program ships.
+// number, and the content the program ships.
 #include <gtest/gtest.h>
 
 #include "app/core/globals.h"
 #include "app/core/libraries.h"
-#include "app/core/placeholders.h"
 #include "dialogs/core/phonecodes.h"
 #include "platform/core/tempfolder.h"
 #include "support/libraryfixture.h"
@@ -25,12 +24,6 @@ TEST(Libraries, WorkingCopiesLiveInTheStagingAreaUntilUnload) {
     UnloadAllLibraries();
     EXPECT_EQ(store.tempFiles(), QStringList());
     EXPECT_EQ(GetLanguageString(308), "");
-}
-
-TEST(Libraries, PlaceholdersAreReplacedWithoutRegardToCase) {
-    OwnerName = "Ingrid";
-    EXPECT_EQ(WithOwnerName("Hello %username, bye %USERNAME."), "Hello Ingrid, bye Ingrid.");
-    EXPECT_EQ(ReplaceText("About %S", "%s", "Tandry"), "About Tandry");
 }
 
 TEST(Libraries, TheShippedCountriesAndPhoneCodesAgree) {

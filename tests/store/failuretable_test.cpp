@@ -80,12 +80,14 @@ protected:
         return s;
     }
 
-    // The failed write changed nothing on the drive and left `temp` behind.
-    void unchanged(const QStringList& temp) const {
+    // The write failed and left `live` on the drive, `temp` in the staging area.
+    void failed(const QMap<QString, QByteArray>& live, const QStringList& temp) const {
         EXPECT_FALSE(outcome);
-        EXPECT_EQ(now.live, before.live);
+        EXPECT_EQ(now.live, live);
         EXPECT_EQ(now.temp, temp);
     }
+    // The failed write changed nothing on the drive and left `temp` behind.
+    void unchanged(const QStringList& temp) const { failed(before.live, temp); }
     // The operation that failed changed nothing that mattered: the write went through.
     void done() const { EXPECT_TRUE(outcome && now.live == after.live); }
 
@@ -109,9 +111,7 @@ protected:
             if (want != Want::Missing && from.live.contains(order[i])) live[order[i]] = from.live[order[i]];
             if (i >= at && i < 3 && want != Want::New) waiting << "addr_" + order[i];
         }
-        EXPECT_FALSE(outcome);
-        EXPECT_EQ(now.live, live);
-        EXPECT_EQ(now.temp, waiting);
+        failed(live, waiting);
     }
 
     // Runs `write` once with every operation traced, then once per k with
@@ -132,11 +132,11 @@ protected:
             lay();
             FailFileOperationAt(k);
             outcome = Outcome(write());
-            const QString failed = FailedFileOperation();
+            const QString failedOp = FailedFileOperation();
             FailFileOperationAt(0);
             now = snap();
-            SCOPED_TRACE(("k=" + QString::number(k) + " " + failed).toStdString());
-            ASSERT_EQ(failed, trace[k - 1]);  // the run is the same up to the failure
+            SCOPED_TRACE(("k=" + QString::number(k) + " " + failedOp).toStdString());
+            ASSERT_EQ(failedOp, trace[k - 1]);  // the run is the same up to the failure
             check(trace, k - 1);
         }
     }
@@ -255,10 +255,7 @@ TEST_F(FailureTable, RemovalLeavesWhatTheTablePromises) {
             } else if (p < finalKill) {
                 commitFailure(trace, p, restored);
             } else if (p == finalKill) {
-                // All three indexes without the contact, its record still there.
-                EXPECT_FALSE(outcome);
-                EXPECT_EQ(now.live, restored.live);
-                EXPECT_EQ(now.temp, QStringList());
+                failed(restored.live, {});  // all three indexes without the contact, its record still there
             } else {
                 done();  // clearing the work copies after success
                 EXPECT_EQ(now.temp, op.endsWith(".tmp") ? QStringList{Base(op)} : QStringList());
