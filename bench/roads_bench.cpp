@@ -354,8 +354,7 @@ int SlowDrive(bool header) {
     BareWindow bare;
     bare.window.show();
     if (header) PrintTableHeader();
-    const std::string road = "refill of a " + std::to_string(s.model.inList()) + "-row list after a save, 2 ms an open";
-    PrintTableRow(road, contacts,
+    PrintTableRow("list refill after a save, 2 ms an open", contacts,
                   Alternate(kRuns, 1,
                             [&] {
                                 SaveInList(s.model);
@@ -387,7 +386,7 @@ int SlowDrive(bool header) {
     const QString childCache = s.dir.path() + "/strace-cache/Vellumark";
     // A run with the refill less a run without: the same preparation in both.
     const long without = StraceOpens(s.app, childCache, 0), with = StraceOpens(s.app, childCache, 1);
-    std::printf("\nfiles opened by a refill of %d rows after one save: %d by the file seam (and %d existence look-ups)",
+    std::printf("\nfiles opened by a refill of the list (%d rows) after one save: %d by the file seam (and %d existence look-ups)",
                 s.model.inList(), seam.opens, seam.lookUps);
     if (without < 0 || with < 0) std::printf("; strace could not run here\n");
     else std::printf("; %ld openat calls by strace -c\n", with - without);
