@@ -50,13 +50,13 @@ test: build
 # One table: road, size, time, floor, ratio, spread (the header once, from
 # the first program); then the files a refill opens and the paint gaps.
 bench: build
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/batch_bench --no-header
-	$(BUILD)/bench/find_export_bench --no-header
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/import_bench --no-header
-	sh tests/fat/on_fat_image.sh $(BUILD)/bench/durable_bench --no-header || [ $$? = 77 ]
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench slow-drive --no-header
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench paint-gaps
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/batch_bench --no-header
+	@$(BUILD)/bench/find_export_bench --no-header
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/import_bench --no-header
+	@sh tests/fat/on_fat_image.sh $(BUILD)/bench/durable_bench --no-header || [ $$? = 77 ]
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench slow-drive --no-header
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench paint-gaps
 
 # Each fuzz target for FUZZ_SECONDS (make fuzz FUZZ_SECONDS=600), from its
 # seed corpus in tests/fuzz/corpus/<target>/; new inputs gather in

@@ -6,10 +6,7 @@
 // changing under it; the results are checked.
 // Run it with QT_QPA_PLATFORM=offscreen.
 #include <QAction>
-#include <QDir>
-#include <QTemporaryDir>
-#include "benchwindow.h"
-#include "floors.h"
+#include "roadstore.h"
 
 void DropContacts(FrmMain& window);  // movecontacts.cpp
 
@@ -45,16 +42,10 @@ void CheckCounts(FrmMain& w, const StoreModel& model, const char* road) {
 }
 
 void Run(int contacts) {
-    QTemporaryDir dir(QDir("/dev/shm").exists() ? "/dev/shm/tandry-batch-XXXXXX" : QDir::tempPath() + "/tandry-batch-XXXXXX");
-    const QString app = dir.path() + "/drive/Tandry";
-    const FloorFolders floor{(dir.path() + "/floor").toStdString(), (dir.path() + "/floor-temp").toStdString()};
-    for (const QString& folder : {app, QString::fromStdString(floor.app), QString::fromStdString(floor.temp)})
-        QDir().mkpath(folder);
-    StoreModel model = MakeStore(app.toStdString(), contacts), floorModel = MakeStore(floor.app, contacts);
-    LayProgramFiles(app.toStdString());
-    OpenProgramOn(app, dir.path() + "/cache/Vellumark");
-    std::unique_ptr<FrmMain> window = OpenMainWindow();
-    FrmMain& w = *window;
+    WindowOnStore b(contacts);
+    FrmMain& w = b.w();
+    StoreModel &model = b.s.model, &floorModel = b.s.floorModel;
+    const FloorFolders& floor = b.s.floor;
     int (&list)[kCategoryCount] = model.counts[kListCountry];
 
     const std::vector<int> duplicated = FirstOfList(floorModel);
@@ -99,7 +90,6 @@ void Run(int contacts) {
     PrintTableRow("delete of 500 (mnuDelete_info)", contacts, remove);
     PrintTableRow("duplicate of 500 into another category", contacts, duplicate);
     PrintTableRow("move of 500 by a drop", contacts, move);
-    window.reset();
 }
 }  // namespace
 
