@@ -3,7 +3,7 @@
 # makes the folder for a stick.
 PACKAGES := cmake make g++ qt6-base-dev qt6-wayland patchelf libgtest-dev xvfb xauth xdotool \
   fonts-dejavu-core poppler-utils dosfstools fusefat \
-  libqt6sql6-sqlite libpff-dev libbfio-dev
+  libqt6sql6-sqlite libpff-dev libbfio-dev strace
 # `make fuzz` alone needs these: clang and its fuzzer and sanitizer runtimes.
 FUZZ_PACKAGES := clang libclang-rt-dev
 FUZZ_BUILD := build-fuzz
@@ -47,13 +47,16 @@ test: build
 	cd $(BUILD) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS); status=$$?; \
 	grep -hE '^(Skipped: |SKIPPED: |SKIP   :)' Testing/Temporary/LastTest.log; exit $$status
 
+# One table: road, size, time, floor, ratio, spread (the header once, from
+# the first program); then the files a refill opens and the paint gaps.
 bench: build
-	$(BUILD)/bench/store_bench
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/list_bench
-	$(BUILD)/bench/find_export_bench
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/batch_bench
-	QT_QPA_PLATFORM=offscreen $(BUILD)/bench/import_bench
-	sh tests/fat/on_fat_image.sh $(BUILD)/bench/durable_bench || [ $$? = 77 ]
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/batch_bench --no-header
+	@$(BUILD)/bench/find_export_bench --no-header
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/import_bench --no-header
+	@sh tests/fat/on_fat_image.sh $(BUILD)/bench/durable_bench --no-header || [ $$? = 77 ]
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench slow-drive --no-header
+	@QT_QPA_PLATFORM=offscreen $(BUILD)/bench/roads_bench paint-gaps
 
 # Each fuzz target for FUZZ_SECONDS (make fuzz FUZZ_SECONDS=600), from its
 # seed corpus in tests/fuzz/corpus/<target>/; new inputs gather in

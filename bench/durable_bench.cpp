@@ -1,6 +1,6 @@
 // What lasting writes cost: a new-contact save (the median of 20) and a
-// delete of 500 contacts, in a store of 2,000, with the flushes off (the
-// writes as they were before) and on, in one run. On tmpfs, and on the
+// delete of 500 contacts, in a store of 2,000, with the flushes on, beside
+// the same with the flushes off (the writes as they were before), in one run. On tmpfs, and on the
 // drive TANDRY_SCRATCH_DRIVE names (`make bench` runs this on a FAT image);
 // the staging area lies on tmpfs, as the local disk would.
 #include <QCoreApplication>
@@ -10,12 +10,11 @@
 #include <cstdio>
 #include "app/core/inifile.h"
 #include "benchfiles.h"
+#include "benchtable.h"
 #include "platform/core/appfolder.h"
 #include "platform/core/fileops.h"
 #include "platform/core/tempfolder.h"
 #include "store/core/store.h"
-
-using Clock = std::chrono::steady_clock;
 
 namespace {
 constexpr int kContacts = 2000, kDeleted = 500, kSaves = 20;
@@ -37,8 +36,6 @@ void MakeStore(const QString& app) {
     EnsureStoreFiles();
 }
 
-double Millis(Clock::time_point start) { return std::chrono::duration<double, std::milli>(Clock::now() - start).count(); }
-
 struct Cost {
     double save, deletion;  // ms
 };
@@ -56,14 +53,14 @@ Cost Measure(const QString& drive, bool flush) {
     form.categoryId = "00001";
     std::vector<double> saves;
     for (int i = 0; i < kSaves; ++i) {
-        const auto start = Clock::now();
+        const auto start = BenchClock::now();
         SaveNewContact(form);
-        saves.push_back(Millis(start));
+        saves.push_back(MillisSince(start));
     }
     std::sort(saves.begin(), saves.end());
-    const auto start = Clock::now();
+    const auto start = BenchClock::now();
     for (int i = 1; i <= kDeleted; ++i) DeleteContactFiles(IdText(i));
-    const Cost cost{saves[saves.size() / 2], Millis(start)};
+    const Cost cost{saves[saves.size() / 2], MillisSince(start)};
     SetFlushingForBench(true);
     return cost;
 }
@@ -72,16 +69,14 @@ Cost Measure(const QString& drive, bool flush) {
 int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     if (QDir("/dev/shm").exists()) qputenv("TMPDIR", "/dev/shm");
-    QList<std::pair<QString, QString>> drives = {{"tmpfs", QDir::tempPath()}};
+    QList<std::pair<std::string, QString>> drives = {{"tmpfs", QDir::tempPath()}};
     if (!qEnvironmentVariable("TANDRY_SCRATCH_DRIVE").isEmpty())
-        drives.append({"FAT (" + qEnvironmentVariable("TANDRY_FAT_MOUNT") + ")", qEnvironmentVariable("TANDRY_SCRATCH_DRIVE")});
-    std::printf("%-40s %-26s %12s %12s %7s\n", "drive", "operation", "unflushed ms", "lasting ms", "ratio");
+        drives.append({"FAT", qEnvironmentVariable("TANDRY_SCRATCH_DRIVE")});
+    if (WantsHeader(argc, argv)) PrintTableHeader();
     for (const auto& [label, folder] : drives) {
         const Cost before = Measure(folder, false), after = Measure(folder, true);
-        std::printf("%-40s %-26s %12.2f %12.2f %7.2f\n", qPrintable(label), "new contact (median of 20)", before.save,
-                    after.save, after.save / before.save);
-        std::printf("%-40s %-26s %12.0f %12.0f %7.2f\n", qPrintable(label), "delete of 500 of 2,000", before.deletion,
-                    after.deletion, after.deletion / before.deletion);
+        PrintTableRow("new contact, flushed against not (" + label + ")", kContacts, {after.save, before.save});
+        PrintTableRow("delete of 500, flushed against not (" + label + ")", kContacts, {after.deletion, before.deletion});
     }
     return 0;
 }

@@ -1,7 +1,7 @@
 // How long a find by e-mail and a find by name take over a store of 30,000
 // contacts, and an export of a 6,000-contact category in each of the four
 // shapes, each beside the floor: the same files read and the same bytes
-// written with plain C++ calls in the same run. Medians of some rounds.
+// written with plain C++ calls, alternating round by round (benchtable.h).
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 #include "benchfiles.h"
+#include "benchtable.h"
 #include "export/core/exportrun.h"
 #include "find/core/findcontacts.h"
 #include "platform/core/appfolder.h"
@@ -61,26 +62,15 @@ void MakeStore(const std::string& app) {
     WriteFile(QString::fromStdString(app + "/name.dat"), name);
 }
 
-template <typename F>
-double MedianMillis(int rounds, F f) {
-    std::vector<double> times;
-    for (int i = 0; i < rounds; ++i) {
-        const auto start = std::chrono::steady_clock::now();
-        f();
-        times.push_back(std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count());
-    }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
-
 // The floor of a find: the three indexes whole, then by name each line's
 // name, and by e-mail each line's record whole with its mail picked out.
 size_t FindFloor(const std::string& app, bool byMail, const std::string& query) {
-    const std::vector<std::string> lines = SplitCrLf(ReadFile(app + "/name.dat"));
+    const std::string names = ReadFile(app + "/name.dat");
     ReadFile(app + "/category.dat");
     ReadFile(app + "/cty.dat");
     size_t hits = 0;
-    for (const std::string& line : lines) {
+    for (std::string_view view : SplitCrLf(names)) {
+        const std::string line(view);
         const size_t comma = line.find(',');
         const std::string id = line.substr(1, comma - 2);
         if (byMail) {
@@ -102,9 +92,10 @@ size_t ExportFloor(const std::string& app, const std::string& snapshot, const st
     const std::string eol = text ? "\r\n" : "\n";
     std::string out = std::string(shape.header) + eol;
     const std::string comma = shape.addrComma ? QString::fromUtf16(shape.addrComma).toStdString() : ",";
-    for (const std::string& line : SplitCrLf(ReadFile(snapshot))) {
+    const std::string lines = ReadFile(snapshot);
+    for (std::string_view line : SplitCrLf(lines)) {
         if (line.compare(0, 18, "\"Norway\",\"00002\",\"") != 0) continue;
-        const std::string record = ReadFile(app + "/data/addr" + line.substr(18, 5) + ".b64");
+        const std::string record = ReadFile(app + "/data/addr" + std::string(line.substr(18, 5)) + ".b64");
         std::string addr = Key(record, "addr");
         for (size_t at = 0; (at = addr.find(',', at)) != std::string::npos; at += comma.size()) addr.replace(at, 1, comma);
         const std::pair<const char*, std::string> values[] = {
@@ -136,46 +127,58 @@ int main(int argc, char** argv) {
     MakeStore(folder.toStdString());
     CopyAddrFile();
     const std::string dir = folder.toStdString();
-    const int rounds = 7;
+    const int runs = 3, rounds = 5;
     QStringList countries{"Sweden", "Denmark", "Norway"};
 
-    std::printf("%-34s %10s %10s %7s\n", "operation", "ms", "floor ms", "ratio");
+    if (WantsHeader(argc, argv)) PrintTableHeader();
     const struct {
         const char* what;
         bool byMail;
         const char* query;
-    } finds[] = {{"find by e-mail, 30,000 contacts", true, "C12345@"}, {"find by name, 30,000 contacts", false, "CONTACT 1234"}};
+    } finds[] = {{"find by e-mail", true, "C12345@"}, {"find by name", false, "CONTACT 1234"}};
     for (const auto& f : finds) {
-        size_t hits = 0, floorHits = 0;
-        const double ms = MedianMillis(rounds, [&] {
-            QList<FindHit> found;
-            ClearContactBuffer();
-            (f.byMail ? FindEmail : FindName)(QString::fromLatin1(f.query), countries, found);
-            hits = size_t(found.size());
-        });
-        const double floor = MedianMillis(rounds, [&] { floorHits = FindFloor(dir, f.byMail, Lower(f.query)); });
-        std::printf("%-34s %10.1f %10.1f %7.1f   (%zu hits, floor %zu)\n", f.what, ms, floor, ms / floor, hits, floorHits);
+        // The floor's hits are what the find must give.
+        const size_t expected = FindFloor(dir, f.byMail, Lower(f.query));
+        Check(expected > 0, std::string(f.what) + ": the query finds something");
+        const BenchResult r = Alternate(
+            runs, rounds,
+            [&] {
+                QList<FindHit> found;
+                const double ms = Millis([&] {
+                    ClearContactBuffer();
+                    (f.byMail ? FindEmail : FindName)(QString::fromLatin1(f.query), countries, found);
+                });
+                Check(size_t(found.size()) == expected, std::string(f.what) + ": the hits");
+                return ms;
+            },
+            [&] {
+                size_t hits = 0;
+                const double ms = Millis([&] { hits = FindFloor(dir, f.byMail, Lower(f.query)); });
+                Check(hits == expected, std::string(f.what) + ": the floor's hits");
+                return ms;
+            });
+        PrintTableRow(f.what, kContacts, r);
     }
 
     ExportCountry = "Norway";
     ExportCategoryName = "Work";
     ExportCategoryId = ExportCategoryIdOf("Work");
-    const char* names[] = {"export OE, 6,000 of 30,000", "export MSO, 6,000 of 30,000", "export Yahoo, 6,000 of 30,000",
-                           "export Incredible, 6,000 of 30,000"};
+    const char* names[] = {"export OE, 6,000 rows", "export MSO, 6,000 rows", "export Yahoo, 6,000 rows",
+                           "export Incredible, 6,000 rows"};
     for (int k = 0; k < 4; ++k) {
         const ExportShape& shape = ExportShapeOf(ExportKind(k));
         const QString file = folder + "/export.csv", floorFile = folder + "/floor.csv";
-        const double ms = MedianMillis(rounds, [&] {
-            QFile::remove(file);
-            WriteExportFile(shape, file, [] { QCoreApplication::processEvents(); });
-        });
-        size_t floorBytes = 0;
-        const double floor = MedianMillis(rounds, [&] {
-            floorBytes = ExportFloor(dir, CatSnapshot().toStdString(), floorFile.toStdString(), shape);
-        });
-        const bool same = ReadFile(file.toStdString()) == ReadFile(floorFile.toStdString());
-        std::printf("%-34s %10.1f %10.1f %7.1f   (%zu bytes%s)\n", names[k], ms, floor, ms / floor, floorBytes,
-                    same ? ", the same as the floor's" : ", NOT the floor's bytes");
+        const BenchResult r = Alternate(
+            runs, rounds,
+            [&] {
+                return Millis([&] {
+                    QFile::remove(file);
+                    WriteExportFile(shape, file, [] { QCoreApplication::processEvents(); });
+                });
+            },
+            [&] { return Millis([&] { ExportFloor(dir, CatSnapshot().toStdString(), floorFile.toStdString(), shape); }); });
+        Check(ReadFile(file.toStdString()) == ReadFile(floorFile.toStdString()), std::string(names[k]) + ": the floor's bytes");
+        PrintTableRow(names[k], kContacts, r);
     }
     DelAddrFile();
     SetAppPathForTest(QString());

@@ -22,6 +22,7 @@ bool g_logging = false;
 QStringList g_log;
 QStringList g_trace;
 bool g_flush = true;
+int g_openDelay = 0;  // microseconds
 FileEventWatcher g_watcher;
 FileChangeListener g_changeListener = nullptr;
 
@@ -54,6 +55,12 @@ void Log(const char* kind, const QString& path) {
 
 QByteArray Native(const QString& path) { return QFile::encodeName(path); }
 
+// Every open of a file passes here, so that a bench can make each one slow.
+int OpenPath(const QString& path, int flags, mode_t mode = 0) {
+    if (g_openDelay > 0) ::usleep(useconds_t(g_openDelay));
+    return ::open(Native(path).constData(), flags, mode);
+}
+
 // What is written in the staging area is scratch: it has to reach the device
 // only when it leaves the staging area. Everything else (the drive's store,
 // setting.ini, an exported file) reaches the device before the call that
@@ -75,7 +82,7 @@ bool SyncData(int fd, const QString& path) {
 }
 
 bool SyncFile(const QString& path) {
-    const int fd = ::open(Native(path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    const int fd = OpenPath(path, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (fd < 0) return false;
     const bool ok = SyncData(fd, path);
     return ::close(fd) == 0 && ok;
@@ -121,8 +128,7 @@ bool WriteAll(int fd, const char* data, qint64 size) {
 }
 
 int OpenForWriting(const QString& path, int extraFlags) {
-    return ::open(Native(path).constData(),
-                  O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | extraFlags, 0644);
+    return OpenPath(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | extraFlags, 0644);
 }
 
 bool ReadFd(int fd, QByteArray& bytes) {
@@ -140,7 +146,7 @@ bool ReadFd(int fd, QByteArray& bytes) {
 }
 
 bool RawRead(const QString& path, QByteArray& bytes) {
-    int fd = ::open(Native(path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    int fd = OpenPath(path, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (fd < 0) return false;
     bool ok = ReadFd(fd, bytes);
     ::close(fd);
@@ -193,7 +199,7 @@ bool MoveAcross(const QString& source, const QString& target, bool lasting) {
 
 // The FAT hidden attribute, where the drive has one.
 bool FatHidden(const QString& path) {
-    int fd = ::open(Native(path).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    int fd = OpenPath(path, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (fd < 0) return false;
     __u32 attributes = 0;
     bool hidden = ::ioctl(fd, FAT_IOCTL_GET_ATTRIBUTES, &attributes) == 0 &&
@@ -319,7 +325,7 @@ bool WritePrivateFile(const QString& path, const QByteArray& bytes) {
     Log("private", path);
     // Not truncated at open: a file that fails the test below stays as it
     // was. O_NONBLOCK keeps a planted FIFO from holding the program.
-    const int fd = ::open(Native(path).constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
+    const int fd = OpenPath(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
     if (fd < 0) return false;
     struct stat st;
     const bool own = ::fstat(fd, &st) == 0 && S_ISREG(st.st_mode) && st.st_uid == ::getuid() && st.st_nlink == 1;
@@ -391,3 +397,4 @@ QStringList FileOperationTrace() { return g_trace; }
 void SetFileEventWatcher(FileEventWatcher watcher) { g_watcher = std::move(watcher); }
 void SetFlushingForBench(bool on) { g_flush = on; }
 void SetFileChangeListener(FileChangeListener listener) { g_changeListener = listener; }
+void SetOpenDelayForBench(int microseconds) { g_openDelay = microseconds; }

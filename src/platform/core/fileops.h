@@ -124,3 +124,6 @@ using FileChangeListener = void (*)(const QString& path);
 void SetFileChangeListener(FileChangeListener listener);  // nullptr: none
 // Off, no flush is made: for the benches that measure what the flushes cost.
 void SetFlushingForBench(bool on);
+// Every open of a file (to read it, write it or flush it) first waits this
+// long, as on a drive that answers slowly; 0 (the default) for no wait.
+void SetOpenDelayForBench(int microseconds);
