@@ -1,6 +1,7 @@
 #include "main/core/categorycounts.h"
 
 #include <QHash>
+#include <functional>
 #include <QSet>
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
@@ -34,11 +35,44 @@ void AddNode(QList<CategoryNode>& nodes, QSet<QString>& keys, const QString& id,
     nodes.append({key, CategoryNodeText(name, count), count});
 }
 
-void BuildNodes(const QString& categoryText, const QString& catText, const QString& filterCountry,
-                QList<CategoryNode>& nodes) {
+// One character, or one byte where each byte is a character of its own.
+QStringView StripEndsOf(QStringView text) { return StripEndsOfView(text); }
+QByteArrayView StripEndsOf(QByteArrayView bytes) {
+    if (bytes.size() == 1) throw RoutineFailure("Invalid procedure call or argument");
+    return bytes.isEmpty() ? bytes : bytes.sliced(1, bytes.size() - 2);
+}
+
+qsizetype LineEndIn(QStringView text, qsizetype from) { return text.indexOf(u"\r\n", from); }
+qsizetype LineEndIn(QByteArrayView bytes, qsizetype from) { return bytes.indexOf("\r\n", from); }
+qsizetype CommaIn(QStringView text, qsizetype from) { return text.indexOf(u',', from); }
+qsizetype CommaIn(QByteArrayView bytes, qsizetype from) { return bytes.indexOf(',', from); }
+
+// The rows of cat.dat (its text, or its bytes) of the filter's country, by
+// category id. Every row is read before any is counted, so a damaged row
+// anywhere ends the routine before the first category is added. The rows
+// are many: they are read as views, not copied.
+template <typename View>
+QHash<View, int> CountRows(View text, View filterCountry) {
+    QHash<View, int> counts;
+    for (qsizetype start = 0, end; (end = LineEndIn(text, start)) >= 0; start = end + 2) {
+        const View line = text.sliced(start, end - start);
+        const qsizetype comma = CommaIn(line, 0);
+        if (comma < 0) throw RoutineFailure("line with too few fields");
+        const qsizetype next = CommaIn(line, comma + 1);
+        const View country = StripEndsOf(line.first(comma));
+        const View category = StripEndsOf(next < 0 ? line.sliced(comma + 1) : line.sliced(comma + 1, next - comma - 1));
+        if (country == filterCountry) ++counts[category];
+    }
+    return counts;
+}
+
+// The count of a category, by its id as category.dat gives it.
+using CountOf = std::function<int(const QString& categoryId)>;
+
+void BuildNodes(const QString& categoryText, bool noContacts, const CountOf& countOf, QList<CategoryNode>& nodes) {
     QSet<QString> keys;
     const QStringList categoryLines = WholeFileLines(categoryText);
-    if (catText.isEmpty()) {
+    if (noContacts) {
         // No contacts at all: bare names, and no scan.
         for (const QString& line : categoryLines) {
             const Fields f = FirstTwoFields(line);
@@ -48,26 +82,20 @@ void BuildNodes(const QString& categoryText, const QString& catText, const QStri
     }
     QList<Fields> categories;
     for (const QString& line : categoryLines) categories.append(FirstTwoFields(line));
-    // Every row of cat.dat is read before any is counted, so a damaged row
-    // anywhere ends the routine before the first category is added. The
-    // rows are many: they are read as views of the text, not copied.
-    QHash<QStringView, int> countsInCountry;
-    const QStringView text(catText);
-    for (qsizetype start = 0, end; (end = text.indexOf(u"\r\n", start)) >= 0; start = end + 2) {
-        const QStringView line = text.mid(start, end - start);
-        const qsizetype comma = line.indexOf(u',');
-        if (comma < 0) throw RoutineFailure("line with too few fields");
-        const qsizetype next = line.indexOf(u',', comma + 1);
-        const QStringView country = StripEndsOfView(line.left(comma));
-        const QStringView category =
-            StripEndsOfView(line.mid(comma + 1, next < 0 ? -1 : next - comma - 1));
-        if (country == filterCountry) ++countsInCountry[category];
-    }
     for (const Fields& category : categories) {
-        const int count = countsInCountry.value(QStringView(category.first), 0);
+        const int count = countOf(category.first);
         if (count > kCounterMax) throw RoutineFailure("category count overflow");
         AddNode(nodes, keys, category.first, category.second, count);
     }
+}
+
+bool Built(const std::function<void()>& build) {
+    try {
+        build();
+    } catch (const RoutineFailure&) {
+        return false;
+    }
+    return true;
 }
 }  // namespace
 
@@ -78,19 +106,31 @@ QString CategoryNodeText(const QString& name, int count) {
 
 bool CategoryNodesFromText(const QString& categoryText, const QString& catText,
                            const QString& filterCountry, QList<CategoryNode>& nodes) {
-    try {
-        BuildNodes(categoryText, catText, filterCountry, nodes);
-    } catch (const RoutineFailure&) {
-        return false;
-    }
-    return true;
+    return Built([&] {
+        QHash<QStringView, int> counts;
+        if (!catText.isEmpty()) counts = CountRows(QStringView(catText), QStringView(filterCountry));
+        BuildNodes(categoryText, catText.isEmpty(), [&](const QString& id) { return counts.value(id, 0); }, nodes);
+    });
 }
 
+// In Windows-1252 every byte is a character and every character one byte,
+// so cat.dat, the largest file the tree reads, is counted on its bytes
+// without being decoded. Other code pages go through the text.
 bool LiveCategoryNodes(const QString& filterCountry, QList<CategoryNode>& nodes) {
     QByteArray categoryBytes, catBytes;
     if (!ReadWholeFile(CategoryFile(), categoryBytes)) return false;
     if (!ReadWholeFile(LiveIndex(QStringLiteral("cat")), catBytes)) return false;
-    return CategoryNodesFromText(FromAnsi(categoryBytes), FromAnsi(catBytes), filterCountry, nodes);
+    const QByteArray filterBytes = ToAnsi(filterCountry);
+    if (AnsiCodePage() != 1252 || FromAnsi(filterBytes) != filterCountry)
+        return CategoryNodesFromText(FromAnsi(categoryBytes), FromAnsi(catBytes), filterCountry, nodes);
+    return Built([&] {
+        QHash<QByteArrayView, int> counts;
+        if (!catBytes.isEmpty()) counts = CountRows(QByteArrayView(catBytes), QByteArrayView(filterBytes));
+        BuildNodes(FromAnsi(categoryBytes), catBytes.isEmpty(), [&](const QString& id) {
+            const QByteArray idBytes = ToAnsi(id);
+            return FromAnsi(idBytes) == id ? counts.value(idBytes, 0) : 0;
+        }, nodes);
+    });
 }
 
 bool TreeTextLess(const QString& a, const QString& b) {
