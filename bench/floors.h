@@ -16,14 +16,28 @@ struct FloorFolders {
     std::string app, temp;  // the floor's own application folder and staging area
 };
 
+// How an index reaches its staged file. A new contact's line is appended
+// to the copy of the index made in the staging area, which is then renamed
+// to the staged file: one read and one write of each index. A changed or
+// removed line is streamed from that copy into the staged file, and the
+// copies are deleted after the commit: the copy is written, read again and
+// written once more.
+enum class Staging { Append, Stream };
+
 // The staged write of one contact's files: each index read whole, changed
 // in memory, written to the staging area; the record written there; then
 // for each the live file unlinked and the staged one renamed in its place,
 // in the order cat.dat, cty.dat, name.dat, record.
 template <typename Change>
-void StagedWrite(const FloorFolders& f, int id, const std::string& record, Change change) {
+void StagedWrite(const FloorFolders& f, int id, const std::string& record, Change change,
+                 Staging staging = Staging::Append) {
     for (int k = 0; k < 3; ++k) {
         std::string bytes = ReadFile(f.app + "/" + kIndexNames[k] + ".dat");
+        if (staging == Staging::Stream) {
+            const std::string copy = f.temp + "/floor_" + kIndexNames[k] + ".tmp";
+            WriteFile(copy, bytes);
+            bytes = ReadFile(copy);
+        }
         change(k, bytes);
         WriteFile(f.temp + "/floor_" + kIndexNames[k] + ".dat", bytes);
     }
@@ -36,6 +50,8 @@ void StagedWrite(const FloorFolders& f, int id, const std::string& record, Chang
     }
     ::unlink(liveRecord.c_str());
     ::rename(stagedRecord.c_str(), liveRecord.c_str());
+    if (staging == Staging::Stream)
+        for (const char* index : kIndexNames) ::unlink((f.temp + "/floor_" + index + ".tmp").c_str());
 }
 
 // A new contact: a line added to each index.
@@ -65,7 +81,7 @@ inline void EditFloor(const FloorFolders& f, int id, int country, int category, 
     StagedWrite(f, id, record, [&](int k, std::string& bytes) {
         const auto [start, length] = LineOf(bytes, k, id);
         if (start != std::string::npos) bytes.replace(start, length, k == 0 ? lines.cat : k == 1 ? lines.cty : lines.name);
-    });
+    }, Staging::Stream);
 }
 
 // A removed contact: its lines taken out, the record moved in as the staged
@@ -74,7 +90,7 @@ inline void RemoveFloor(const FloorFolders& f, int id, const std::string& record
     StagedWrite(f, id, record, [&](int k, std::string& bytes) {
         const auto [start, length] = LineOf(bytes, k, id);
         if (start != std::string::npos) bytes.erase(start, length);
-    });
+    }, Staging::Stream);
     ::unlink((f.app + "/data/addr" + Id(id) + ".b64").c_str());
 }
 
