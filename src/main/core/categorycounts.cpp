@@ -43,7 +43,11 @@ QByteArrayView StripEndsOf(QByteArrayView bytes) {
 }
 
 qsizetype LineEndIn(QStringView text, qsizetype from) { return text.indexOf(u"\r\n", from); }
-qsizetype LineEndIn(QByteArrayView bytes, qsizetype from) { return bytes.indexOf("\r\n", from); }
+qsizetype LineEndIn(QByteArrayView bytes, qsizetype from) {
+    for (qsizetype cr = bytes.indexOf('\r', from); cr >= 0; cr = bytes.indexOf('\r', cr + 1))
+        if (cr + 1 < bytes.size() && bytes[cr + 1] == '\n') return cr;
+    return -1;
+}
 qsizetype CommaIn(QStringView text, qsizetype from) { return text.indexOf(u',', from); }
 qsizetype CommaIn(QByteArrayView bytes, qsizetype from) { return bytes.indexOf(',', from); }
 

@@ -131,18 +131,26 @@ int OpenForWriting(const QString& path, int extraFlags) {
     return OpenPath(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | extraFlags, 0644);
 }
 
+// Reads into room for the whole file as its size stands, in as few calls
+// as the system allows; a file that grows meanwhile is read to its end.
 bool ReadFd(int fd, QByteArray& bytes) {
-    bytes.clear();
-    char buffer[65536];
+    struct stat st;
+    const qsizetype expected = ::fstat(fd, &st) == 0 && st.st_size > 0 ? qsizetype(st.st_size) : 0;
+    bytes.resize(expected + 1);  // one more, to see the end in the same pass
+    qsizetype used = 0;
     for (;;) {
-        ssize_t n = ::read(fd, buffer, sizeof buffer);
+        if (used == bytes.size()) bytes.resize(bytes.size() * 2 + 65536);
+        const ssize_t n = ::read(fd, bytes.data() + used, size_t(bytes.size() - used));
         if (n < 0) {
             if (errno == EINTR) continue;
+            bytes.clear();
             return false;
         }
-        if (n == 0) return true;
-        bytes.append(buffer, static_cast<qsizetype>(n));
+        if (n == 0) break;
+        used += n;
     }
+    bytes.truncate(used);
+    return true;
 }
 
 bool RawRead(const QString& path, QByteArray& bytes) {
