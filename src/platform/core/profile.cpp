@@ -1,5 +1,7 @@
 #include "platform/core/profile.h"
 
+#include <algorithm>
+
 #include <QByteArray>
 #include <QFile>
 #include <sys/stat.h>
@@ -204,7 +206,8 @@ bool WritePrivateProfileString(const QString& section, const QString& key,
 
 long ProfileReadCallCount() { return g_readCalls; }
 
-bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values) {
+bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values,
+                        std::initializer_list<QLatin1String> onlyKeys) {
     values.clear();
     QByteArray bytes;
     if (!ReadWholeFile(file, bytes)) return false;
@@ -238,7 +241,10 @@ bool ReadProfileSection(const QString& section, const QString& file, ProfileValu
         if (!inSection) continue;
         const qsizetype eq = line.indexOf(u'=');
         if (eq < 0) continue;
-        const QString key = trim(line.left(eq)).toString().toLower();
+        const QStringView keyText = trim(line.left(eq));
+        const auto asked = [&](QLatin1String k) { return keyText.compare(k, Qt::CaseInsensitive) == 0; };
+        if (onlyKeys.size() != 0 && std::none_of(onlyKeys.begin(), onlyKeys.end(), asked)) continue;
+        const QString key = keyText.toString().toLower();
         if (!values.contains(key))  // the first line of a key wins
             values.insert(key, DropQuotes(trim(line.mid(eq + 1)).toString()));
     }

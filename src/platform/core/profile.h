@@ -5,7 +5,9 @@
 // double quotes of a value are dropped on reading. Texts are in the ANSI
 // code page of the process.
 #include <QHash>
+#include <QLatin1String>
 #include <QString>
+#include <initializer_list>
 
 // Copies at most size - 1 characters of the value (or default) into
 // `buffer` and returns the count copied, as GetPrivateProfileString does.
@@ -26,5 +28,8 @@ long ProfileReadCallCount();
 // Every key of the first section of that name, read in one pass of the
 // file: what GetPrivateProfileString would give for each key, looked up by
 // the key in lower case. False (and no values) when the file can't be read.
+// With `onlyKeys` (in lower case), the other keys are passed over unread:
+// the contact list reads five keys of thousands of records.
 using ProfileValues = QHash<QString, QString>;
-bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values);
+bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values,
+                        std::initializer_list<QLatin1String> onlyKeys = {});

@@ -18,7 +18,8 @@ namespace {
 // profile call would give for it, or empty when missing.
 class RecordKeys {
 public:
-    explicit RecordKeys(const QString& path) : read_(ReadProfileSection("Setting", path, values_)) {}
+    explicit RecordKeys(const QString& path, std::initializer_list<QLatin1String> only = {})
+        : read_(ReadProfileSection("Setting", path, values_, only)) {}
     QString operator()(const char* key) const { return values_.value(QString::fromLatin1(key)); }
     bool read() const { return read_; }
 private:
@@ -95,7 +96,8 @@ bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const cha
 namespace {
 RecordSummary ReadSummary(const QString& path, const FileStamp& stamp) {
     const qint64 readAt = FileClockNowNs();
-    const RecordKeys Key(path);
+    const RecordKeys Key(path, {QLatin1String("infoname"), QLatin1String("mail"), QLatin1String("category"),
+                                QLatin1String("company"), QLatin1String("designation")});
     const RecordSummary summary{Key("infoname"), Key("mail"), Key("category"), Key("company"), Key("designation")};
     if (Key.read()) KeepSummary(path, stamp, readAt, summary);
     return summary;
