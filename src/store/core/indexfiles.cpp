@@ -4,6 +4,7 @@
 #include <array>
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
+#include "store/core/failure.h"
 #include "store/core/formatted.h"
 #include "store/core/paths.h"
 #include "store/core/text.h"
@@ -162,8 +163,24 @@ bool RemoveNameLine(const ContactId& contactId) {
 }
 
 CatLine SplitCatLine(const QString& line) {
-    const QStringList parts = line.split(u',');
-    return {StripEnds(Element(parts, 0)), StripEnds(Element(parts, 1)), StripEnds(Element(parts, 2))};
+    const auto [country, categoryId, contactId] = SplitCatLineViews(line);
+    return {country.toString(), categoryId.toString(), contactId.toString()};
+}
+
+// Each field is stripped before the next is looked for, so a one-character
+// field fails before a missing one after it, as a split of the whole line
+// and its elements taken in order would.
+std::array<QStringView, 3> SplitCatLineViews(QStringView line) {
+    std::array<QStringView, 3> fields;
+    qsizetype start = 0;
+    for (QStringView& field : fields) {
+        if (start > line.size()) throw RoutineFailure("Subscript out of range");
+        qsizetype comma = line.indexOf(u',', start);
+        if (comma < 0) comma = line.size();
+        field = StripEndsOfView(line.sliced(start, comma - start));
+        start = comma + 1;
+    }
+    return fields;
 }
 
 NameLine SplitNameLine(const QString& line) {

@@ -8,6 +8,8 @@
 // staged file (addr_X.dat); a replace or a removal streams the work copy
 // into the staged file line by line.
 #include <QString>
+#include <QStringView>
+#include <array>
 #include "store/core/ids.h"
 
 bool AppendCatLine(const ContactId& contactId, const QString& country, const CategoryId& categoryId);
@@ -42,6 +44,9 @@ struct CatLine {
     ContactId contactId;
 };
 CatLine SplitCatLine(const QString& line);
+// The same three fields as views of the line, for the walks of whole files
+// that keep only a few of their lines.
+std::array<QStringView, 3> SplitCatLineViews(QStringView line);
 
 // A name.dat line split at the three characters "," : id and name, with
 // every double quote removed; a line that doesn't split in two gives the id
