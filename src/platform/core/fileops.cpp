@@ -232,27 +232,27 @@ bool WorkingFolderHoldsAFile() {
 }  // namespace
 
 bool FileExists(const QString& path) {
-    if (!Step("exists", path)) return false;
-    struct stat st;
-    return path.isEmpty() ? WorkingFolderHoldsAFile() : StatRegular(path, st);
+    if (path.isEmpty()) return Step("exists", path) && WorkingFolderHoldsAFile();
+    FileStamp unused;
+    return FileExistsWithStamp(path, unused);
 }
+
+namespace {
+qint64 Nanoseconds(const timespec& time) { return qint64(time.tv_sec) * 1000000000 + time.tv_nsec; }
+}  // namespace
 
 bool FileExistsWithStamp(const QString& path, FileStamp& stamp) {
     if (!Step("exists", path)) return false;
     struct stat st;
     if (path.isEmpty() || !StatRegular(path, st)) return false;
-    stamp.size = st.st_size;
-    stamp.modifiedNs = qint64(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
-    stamp.changedNs = qint64(st.st_ctim.tv_sec) * 1000000000 + st.st_ctim.tv_nsec;
-    stamp.device = st.st_dev;
-    stamp.inode = st.st_ino;
+    stamp = {st.st_size, Nanoseconds(st.st_mtim), Nanoseconds(st.st_ctim), st.st_dev, st.st_ino};
     return true;
 }
 
 qint64 FileClockNowNs() {
     timespec now;
     ::clock_gettime(CLOCK_REALTIME, &now);
-    return qint64(now.tv_sec) * 1000000000 + now.tv_nsec;
+    return Nanoseconds(now);
 }
 
 bool NormalFileExists(const QString& path) {
