@@ -1,6 +1,7 @@
 #include "store/core/recordsummaries.h"
 
 #include <QHash>
+#include <algorithm>
 #include "platform/core/codepage.h"
 
 namespace {
@@ -47,5 +48,3 @@ void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, c
     const qint64 newest = std::max(stamp.modifiedNs, stamp.changedNs);
     TheKeeper().byPath.insert(path, {stamp, readAtNs - newest > kTimeStepNs, summary});
 }
-
-void ForgetSummaries() { TheKeeper().byPath.clear(); }

@@ -19,5 +19,3 @@ const RecordSummary* KeptSummary(const QString& path, const FileStamp& stamp);
 // Keeps what was read from the file of that stamp, read at `readAtNs` on
 // the file clock.
 void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, const RecordSummary& summary);
-// Lets every kept summary go.
-void ForgetSummaries();
