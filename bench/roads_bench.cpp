@@ -169,15 +169,23 @@ int main(int argc, char** argv) {
     if (mode == "slow-drive") return SlowDrive(WantsHeader(argc, argv), kRuns);
     if (mode == "paint-gaps") return PaintGaps();
     if (WantsHeader(argc, argv)) PrintTableHeader();
-    for (int contacts : {1000, 10000, 30000}) {
+    // ROADS=start,edit and SIZES=10000 narrow a run to the roads being worked on.
+    const QStringList only = qEnvironmentVariable("ROADS").split(',', Qt::SkipEmptyParts);
+    const auto wanted = [&](const char* road) { return only.isEmpty() || only.contains(road); };
+    QList<int> sizes{1000, 10000, 30000};
+    if (qEnvironmentVariableIsSet("SIZES")) {
+        sizes.clear();
+        for (const QString& size : qEnvironmentVariable("SIZES").split(',')) sizes << size.toInt();
+    }
+    for (int contacts : sizes) {
         Roads roads(contacts);
-        roads.ListFill();
-        roads.TreeRebuild();
-        roads.CountrySwitch();
-        roads.RefreshAfterASave();
-        roads.NewContactSave();
-        roads.Edit();
-        roads.Start();
+        if (wanted("list")) roads.ListFill();
+        if (wanted("tree")) roads.TreeRebuild();
+        if (wanted("country")) roads.CountrySwitch();
+        if (wanted("refresh")) roads.RefreshAfterASave();
+        if (wanted("save")) roads.NewContactSave();
+        if (wanted("edit")) roads.Edit();
+        if (wanted("start")) roads.Start();
     }
     return 0;
 }

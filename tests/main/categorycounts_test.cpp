@@ -81,6 +81,31 @@ TEST(ListRows, AFailureKeepsTheRowsAndTheSnapshotMayHoldAt32766Lines) {
     ClearContactBuffer();
 }
 
+// Whatever stands under a record's name that the existence test does not
+// find as a regular file is missing: its line shows the row before under
+// its own id. A record reached through a link is found but not read, and
+// its row is left out for its empty name. A pipe is never waited on.
+TEST(ListRows, WhatStandsUnderARecordsNameIsMissingOrUnread) {
+    ScratchStore store;
+    QDir().mkpath(store.appFile("data"));
+    store.putRecord({"00011", "Åse Berg"});
+    store.putRecord({"00019", "Target"});
+    const auto at = [&](const char* id) { return QFile::encodeName(store.appFile(QString("data/addr%1.b64").arg(id))); };
+    ASSERT_EQ(::mkdir(at("00012"), 0755), 0);
+    ASSERT_EQ(::mkfifo(at("00013"), 0644), 0);
+    ASSERT_EQ(::symlink(at("00019").constData(), at("00014")), 0);
+    ASSERT_EQ(::symlink("nowhere.b64", at("00015")), 0);
+    QStringList lines;
+    for (const char* id : {"00011", "00012", "00013", "00014", "00015"}) lines << QString("\"Norway\",\"00001\",\"%1\"").arg(id);
+    ClearContactBuffer();
+    QList<ContactRow> rows;
+    ASSERT_TRUE(ContactRowsFromLines(lines, "Norway", "00001", rows));
+    QStringList shown;
+    for (const ContactRow& row : rows) shown << row.contactId + ":" + row.name;
+    EXPECT_EQ(shown, QStringList({"00011:Åse Berg", "00012:Åse Berg", "00013:Åse Berg"}));
+    ClearContactBuffer();
+}
+
 // A refill opens only the records that changed since it last read them, and
 // sees every change: the program's own, one made in place with the old
 // modification time put back, and a file renamed over the record.

@@ -60,5 +60,8 @@ TEST(Profile, ASectionReadInOnePassAgreesWithKeyByKeyReading) {
     ASSERT_TRUE(ReadProfileSection("Setting", file, values));
     for (const char* key : {"infoname", "mail", "tel1", "notes"}) EXPECT_EQ(values.value(key), Read(file, "Setting", key, "").first) << key;
     EXPECT_TRUE(values.value("infoname") == U("Åsa") && !values.contains("tel1"));  // tel1 only in later sections
+    const QStringList named = ProfileSectionValues("Setting", store.read(file), {QLatin1String("mail"), QLatin1String("infoname"),
+                                                                                 QLatin1String("tel1"), QLatin1String("notes")});
+    EXPECT_EQ(named, QStringList({values.value("mail"), values.value("infoname"), "", ""}));
     EXPECT_TRUE(!ReadProfileSection("Setting", store.appFile("missing"), values) && values.isEmpty());
 }

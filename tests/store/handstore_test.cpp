@@ -9,6 +9,7 @@
 #include "platform/core/fileops.h"
 #include "platform/core/tempfolder.h"
 #include "store/core/failure.h"
+#include "store/core/paths.h"
 #include "store/core/store.h"
 #include "support/printers.h"
 #include "support/scratch.h"
@@ -75,7 +76,7 @@ TEST_F(HandStore, RecordsAreReadAsStoredAndDecodedOnlyWhereAsked) {
     EXPECT_EQ(ContactBuffer.infoid + "|" + ContactBuffer.infoname + "|" + ContactBuffer.tel1, U("00077|Hélène|+49 30 1"));
 
     ClearContactBuffer();  // the summary reads its five keys only
-    ASSERT_TRUE(ReadContactSummary("00011"));
+    ASSERT_TRUE(ReadContactSummary(DataFolder(), "00011"));
     EXPECT_EQ(ContactBuffer.designation + "|" + ContactBuffer.tel1, U("Geschäftsführer|"));
 }
 

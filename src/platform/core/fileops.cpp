@@ -131,16 +131,30 @@ int OpenForWriting(const QString& path, int extraFlags) {
     return OpenPath(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | extraFlags, 0644);
 }
 
+bool ReadFd(int fd, QByteArray& bytes, const struct stat* status);
+
 // Reads into room for the whole file as its size stands, in as few calls
 // as the system allows; a file that grows meanwhile is read to its end.
+// A plain file gives less than was asked only at its end, so one read
+// usually does; anything else is read until it gives nothing.
 bool ReadFd(int fd, QByteArray& bytes) {
     struct stat st;
-    const qsizetype expected = ::fstat(fd, &st) == 0 && st.st_size > 0 ? qsizetype(st.st_size) : 0;
+    const bool known = ::fstat(fd, &st) == 0;
+    return ReadFd(fd, bytes, known ? &st : nullptr);
+}
+
+// The same with the file's status already taken, or none.
+bool ReadFd(int fd, QByteArray& bytes, const struct stat* status) {
+    const bool known = status != nullptr;
+    const struct stat& st = *status;
+    const bool plain = known && S_ISREG(st.st_mode);
+    const qsizetype expected = known && st.st_size > 0 ? qsizetype(st.st_size) : 0;
     bytes.resize(expected + 1);  // one more, to see the end in the same pass
     qsizetype used = 0;
     for (;;) {
         if (used == bytes.size()) bytes.resize(bytes.size() * 2 + 65536);
-        const ssize_t n = ::read(fd, bytes.data() + used, size_t(bytes.size() - used));
+        const size_t room = size_t(bytes.size() - used);
+        const ssize_t n = ::read(fd, bytes.data() + used, room);
         if (n < 0) {
             if (errno == EINTR) continue;
             bytes.clear();
@@ -148,6 +162,7 @@ bool ReadFd(int fd, QByteArray& bytes) {
         }
         if (n == 0) break;
         used += n;
+        if (plain && size_t(n) < room) break;
     }
     bytes.truncate(used);
     return true;
@@ -247,6 +262,29 @@ bool FileExistsWithStamp(const QString& path, FileStamp& stamp) {
     if (path.isEmpty() || !StatRegular(path, st)) return false;
     stamp = {st.st_size, Nanoseconds(st.st_mtim), Nanoseconds(st.st_ctim), st.st_dev, st.st_ino};
     return true;
+}
+
+StampedRead ReadFileWithStamp(const QString& path, QByteArray& bytes, FileStamp& stamp) {
+    if (!Step("exists", path) || path.isEmpty()) return StampedRead::Missing;
+    // Not blocking, so that a pipe planted under the name is passed over
+    // rather than waited on.
+    const int fd = OpenPath(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    struct stat st;
+    if (fd < 0) {
+        // Not opened: the existence test still finds a regular file behind a link.
+        if (errno == ENOENT || !StatRegular(path, st)) return StampedRead::Missing;
+        Step("read", path);
+        return StampedRead::Unreadable;
+    }
+    StampedRead result = StampedRead::Unreadable;
+    if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode))
+        result = StampedRead::Missing;
+    else if (Step("read", path) && ReadFd(fd, bytes, &st))
+        result = StampedRead::Read;
+    ::close(fd);
+    if (result == StampedRead::Read)
+        stamp = {st.st_size, Nanoseconds(st.st_mtim), Nanoseconds(st.st_ctim), st.st_dev, st.st_ino};
+    return result;
 }
 
 qint64 FileClockNowNs() {

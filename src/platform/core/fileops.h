@@ -41,6 +41,11 @@ struct FileStamp {
 // The existence test of FileExists (the same operation, as the seam counts
 // it), telling also the file's stamp when it is found.
 bool FileExistsWithStamp(const QString& path, FileStamp& stamp);
+// The existence test and the read of a file in one opening, telling the
+// stamp of what was read. Missing is what FileExists would not find;
+// Unreadable a file it finds that can't be read (through a link, say).
+enum class StampedRead { Read, Missing, Unreadable };
+StampedRead ReadFileWithStamp(const QString& path, QByteArray& bytes, FileStamp& stamp);
 // Now, on the clock the file times are kept in, in nanoseconds.
 qint64 FileClockNowNs();
 bool MakeFolder(const QString& path);  // one level

@@ -1,6 +1,7 @@
 #include "platform/core/profile.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <QByteArray>
 #include <QFile>
@@ -206,47 +207,109 @@ bool WritePrivateProfileString(const QString& section, const QString& key,
 
 long ProfileReadCallCount() { return g_readCalls; }
 
-bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values,
-                        std::initializer_list<QLatin1String> onlyKeys) {
-    values.clear();
-    QByteArray bytes;
-    if (!ReadWholeFile(file, bytes)) return false;
-    // One decoding of the whole file: no line end can stand inside a
-    // character of the code pages in use.
-    const QString text = FromAnsi(bytes);
-    const QStringView all(text);
+namespace {
+QByteArrayView TrimmedView(QByteArrayView v) {
+    while (!v.isEmpty() && IsBlank(v.front())) v = v.sliced(1);
+    while (!v.isEmpty() && IsBlank(v.back())) v.chop(1);
+    return v;
+}
+
+QString Decoded(QByteArrayView v) { return FromAnsi(QByteArray::fromRawData(v.data(), v.size())); }
+
+bool AllAscii(QByteArrayView v) {
+    return std::all_of(v.begin(), v.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+// For a header line, whether it names `wanted`; nothing for any other line.
+// A header of plain letters is compared as it stands, any other decoded.
+std::optional<bool> HeaderNames(QByteArrayView line, const QString& wanted) {
+    if (!line.startsWith('[')) return std::nullopt;
+    if (AllAscii(line)) {
+        const qsizetype close = line.lastIndexOf(']');
+        if (close <= 0) return std::nullopt;
+        const QByteArrayView name = TrimmedView(line.sliced(1, close - 1));
+        return wanted.compare(QLatin1StringView(name.data(), name.size()), Qt::CaseInsensitive) == 0;
+    }
+    const QString text = Decoded(line);
+    const qsizetype close = text.lastIndexOf(u']');
+    if (close <= 0) return std::nullopt;
+    return Trimmed(text.mid(1, close - 1)).compare(wanted, Qt::CaseInsensitive) == 0;
+}
+
+// A key as the values are looked up by: in lower case.
+QString KeyName(QByteArrayView key) {
+    if (AllAscii(key)) return QString::fromLatin1(key.data(), key.size()).toLower();
+    return Decoded(key).toLower();
+}
+
+// Which of `keys` (in lower case) a key of the file is, or -1. A key of
+// plain letters compares as bytes; any other as text, where case folding
+// may match more than the letters.
+int KeyIndex(QByteArrayView key, std::initializer_list<QLatin1String> keys) {
+    const bool ascii = AllAscii(key);
+    const QString text = ascii ? QString() : Decoded(key);
+    int i = 0;
+    for (QLatin1String wanted : keys) {
+        if (ascii ? key.size() == wanted.size() && qstrnicmp(key.data(), wanted.data(), size_t(key.size())) == 0
+                  : text.compare(wanted, Qt::CaseInsensitive) == 0)
+            return i;
+        ++i;
+    }
+    return -1;
+}
+
+QString ValueText(QByteArrayView value) { return DropQuotes(Decoded(TrimmedView(value))); }
+
+// Calls `onKey(key, value)` for each key line of the first section of that
+// name, the key trimmed, the value as it stands after the '='. The lines
+// are walked as bytes and only what is kept is decoded: no line end, blank,
+// '[' at a line's start or '=' stands inside a character of the code pages
+// in use, so a line's parts decode as the whole file would.
+template <typename OnKey>
+void WalkSection(const QString& section, QByteArrayView all, OnKey onKey) {
     const QString wanted = Trimmed(section);
-    auto trim = [](QStringView v) {
-        while (!v.isEmpty() && IsBlank(v.front())) v = v.mid(1);
-        while (!v.isEmpty() && IsBlank(v.back())) v.chop(1);
-        return v;
-    };
     bool inSection = false;
     qsizetype pos = 0;
     while (pos < all.size()) {
-        qsizetype lf = all.indexOf(u'\n', pos);
+        qsizetype lf = all.indexOf('\n', pos);
         if (lf < 0) lf = all.size();
-        QStringView line = all.mid(pos, lf - pos);
+        QByteArrayView line = all.sliced(pos, lf - pos);
         pos = lf + 1;
-        if (line.endsWith(u'\r')) line.chop(1);
-        line = trim(line);
-        if (line.startsWith(u'[')) {
-            const qsizetype close = line.lastIndexOf(u']');
-            if (close > 0) {
-                if (inSection) break;  // only the first section of the name counts
-                inSection = trim(line.mid(1, close - 1)).compare(wanted, Qt::CaseInsensitive) == 0;
-                continue;
-            }
+        if (line.endsWith('\r')) line.chop(1);
+        line = TrimmedView(line);
+        if (const std::optional<bool> named = HeaderNames(line, wanted)) {
+            if (inSection) break;  // only the first section of the name counts
+            inSection = *named;
+            continue;
         }
         if (!inSection) continue;
-        const qsizetype eq = line.indexOf(u'=');
-        if (eq < 0) continue;
-        const QStringView keyText = trim(line.left(eq));
-        const auto asked = [&](QLatin1String k) { return keyText.compare(k, Qt::CaseInsensitive) == 0; };
-        if (onlyKeys.size() != 0 && std::none_of(onlyKeys.begin(), onlyKeys.end(), asked)) continue;
-        const QString key = keyText.toString().toLower();
-        if (!values.contains(key))  // the first line of a key wins
-            values.insert(key, DropQuotes(trim(line.mid(eq + 1)).toString()));
+        const qsizetype eq = line.indexOf('=');
+        if (eq >= 0) onKey(TrimmedView(line.first(eq)), line.sliced(eq + 1));
     }
+}
+}  // namespace
+
+bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values) {
+    values.clear();
+    QByteArray bytes;
+    if (!ReadWholeFile(file, bytes)) return false;
+    WalkSection(section, bytes, [&](QByteArrayView key, QByteArrayView value) {
+        const QString name = KeyName(key);
+        if (!values.contains(name)) values.insert(name, ValueText(value));  // the first line of a key wins
+    });
     return true;
+}
+
+QStringList ProfileSectionValues(const QString& section, const QByteArray& bytes,
+                                 std::initializer_list<QLatin1String> keys) {
+    QStringList values(qsizetype(keys.size()));
+    std::vector<bool> found(keys.size());
+    WalkSection(section, bytes, [&](QByteArrayView key, QByteArrayView value) {
+        const int i = KeyIndex(key, keys);
+        if (i >= 0 && !found[size_t(i)]) {  // the first line of a key wins
+            found[size_t(i)] = true;
+            values[i] = ValueText(value);
+        }
+    });
+    return values;
 }

@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QLatin1String>
 #include <QString>
+#include <QStringList>
 #include <initializer_list>
 
 // Copies at most size - 1 characters of the value (or default) into
@@ -28,8 +29,11 @@ long ProfileReadCallCount();
 // Every key of the first section of that name, read in one pass of the
 // file: what GetPrivateProfileString would give for each key, looked up by
 // the key in lower case. False (and no values) when the file can't be read.
-// With `onlyKeys` (in lower case), the other keys are passed over unread:
-// the contact list reads five keys of thousands of records.
 using ProfileValues = QHash<QString, QString>;
-bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values,
-                        std::initializer_list<QLatin1String> onlyKeys = {});
+bool ReadProfileSection(const QString& section, const QString& file, ProfileValues& values);
+// The same for the named keys alone (in lower case), over a file's bytes
+// already read, in the order asked: empty for a key the section lacks. The
+// contact list reads five keys of thousands of records, and passes the
+// others over undecoded.
+QStringList ProfileSectionValues(const QString& section, const QByteArray& bytes,
+                                 std::initializer_list<QLatin1String> keys);

@@ -8,7 +8,10 @@ QString LiveIndex(const QString& index) { return AppFile(index + ".dat"); }
 QString WorkCopy(const QString& index) { return TempFile("addr_" + index + ".tmp"); }
 QString StagedIndex(const QString& index) { return TempFile("addr_" + index + ".dat"); }
 QString DataFolder() { return AppFile("data"); }
-QString RecordPath(const ContactId& contactId) { return DataFolder() + "/addr" + contactId + ".b64"; }
+QString RecordPath(const ContactId& contactId) { return RecordPathIn(DataFolder(), contactId); }
+QString RecordPathIn(const QString& dataFolder, const ContactId& contactId) {
+    return dataFolder + "/addr" + contactId + ".b64";
+}
 QString StagedRecordPath(const ContactId& contactId) { return TempFile("addr" + contactId + ".b64"); }
 QString CatSnapshot() { return TempFile("addr_cat.dat"); }
 QString CategorySnapshot() { return TempFile("addr_category.dat"); }

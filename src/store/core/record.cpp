@@ -1,5 +1,7 @@
 #include "store/core/record.h"
 
+#include <optional>
+
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
 #include "platform/core/numbers.h"
@@ -18,8 +20,7 @@ namespace {
 // profile call would give for it, or empty when missing.
 class RecordKeys {
 public:
-    explicit RecordKeys(const QString& path, std::initializer_list<QLatin1String> only = {})
-        : read_(ReadProfileSection("Setting", path, values_, only)) {}
+    explicit RecordKeys(const QString& path) : read_(ReadProfileSection("Setting", path, values_)) {}
     QString operator()(const char* key) const { return values_.value(QString::fromLatin1(key)); }
     bool read() const { return read_; }
 private:
@@ -94,29 +95,44 @@ bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const cha
 }
 
 namespace {
-RecordSummary ReadSummary(const QString& path, const FileStamp& stamp) {
+// The five keys read from the file itself, and kept for the next refill. A
+// record that can't be read shows as empty; a missing one gives nothing.
+std::optional<RecordSummary> ReadSummary(const QString& path) {
     const qint64 readAt = FileClockNowNs();
-    const RecordKeys Key(path, {QLatin1String("infoname"), QLatin1String("mail"), QLatin1String("category"),
-                                QLatin1String("company"), QLatin1String("designation")});
-    const RecordSummary summary{Key("infoname"), Key("mail"), Key("category"), Key("company"), Key("designation")};
-    if (Key.read()) KeepSummary(path, stamp, readAt, summary);
+    QByteArray bytes;
+    FileStamp stamp;
+    const StampedRead read = ReadFileWithStamp(path, bytes, stamp);
+    if (read == StampedRead::Missing) return std::nullopt;
+    if (read == StampedRead::Unreadable) return RecordSummary{};
+    const QStringList v = ProfileSectionValues("Setting", bytes,
+                                               {QLatin1String("infoname"), QLatin1String("mail"), QLatin1String("category"),
+                                                QLatin1String("company"), QLatin1String("designation")});
+    const RecordSummary summary{v[0], v[1], v[2], v[3], v[4]};
+    KeepSummary(path, stamp, readAt, summary);
     return summary;
+}
+
+// A record read before is confirmed by its stamp alone, without opening
+// it; any other is opened once, which is its existence test as well.
+std::optional<RecordSummary> Summary(const QString& path) {
+    if (!SummaryKept(path)) return ReadSummary(path);
+    FileStamp stamp;
+    if (!FileExistsWithStamp(path, stamp)) return std::nullopt;
+    if (const RecordSummary* kept = KeptSummary(path, stamp)) return *kept;
+    return ReadSummary(path);
 }
 }  // namespace
 
 // The list reads thousands of these after every save: a record it read
 // before and that has not changed since is not read again.
-bool ReadContactSummary(const ContactId& contactId) {
-    const QString path = RecordPath(contactId);
-    FileStamp stamp;
-    if (!FileExistsWithStamp(path, stamp)) return false;
-    const RecordSummary* kept = KeptSummary(path, stamp);
-    const RecordSummary summary = kept ? *kept : ReadSummary(path, stamp);
-    ContactBuffer.infoname = summary.infoname;
-    ContactBuffer.mail = summary.mail;
-    ContactBuffer.category = summary.category;
-    ContactBuffer.company = summary.company;
-    ContactBuffer.designation = summary.designation;
+bool ReadContactSummary(const QString& dataFolder, const ContactId& contactId) {
+    const std::optional<RecordSummary> summary = Summary(RecordPathIn(dataFolder, contactId));
+    if (!summary) return false;
+    ContactBuffer.infoname = summary->infoname;
+    ContactBuffer.mail = summary->mail;
+    ContactBuffer.category = summary->category;
+    ContactBuffer.company = summary->company;
+    ContactBuffer.designation = summary->designation;
     return true;
 }
 

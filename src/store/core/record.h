@@ -38,7 +38,9 @@ enum class RecordRead { Read, Missing, CountryNoNumber };
 RecordRead ReadRecordInto(const ContactId& contactId, InfoIdFrom infoId);
 bool ReadContact(const ContactId& contactId);          // infoid from the argument
 bool ReadContactWithId(const ContactId& contactId);    // infoid from the file
-bool ReadContactSummary(const ContactId& contactId);   // the list's five keys
+// The list's five keys, from the record in `dataFolder` (DataFolder(), looked
+// up once per walk rather than once per row).
+bool ReadContactSummary(const QString& dataFolder, const ContactId& contactId);
 // The named text keys alone, each into its field of the buffer; the others
 // stay as they were. False, and nothing read, when the file is missing.
 bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const char*> keys);

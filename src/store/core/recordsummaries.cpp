@@ -44,6 +44,11 @@ const RecordSummary* KeptSummary(const QString& path, const FileStamp& stamp) {
     return &found->summary;
 }
 
+bool SummaryKept(const QString& path) {
+    const auto found = TheKeeper().byPath.constFind(path);
+    return found != TheKeeper().byPath.constEnd() && found->settled;
+}
+
 void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, const RecordSummary& summary) {
     const qint64 newest = std::max(stamp.modifiedNs, stamp.changedNs);
     TheKeeper().byPath.insert(path, {stamp, readAtNs - newest > kTimeStepNs, summary});

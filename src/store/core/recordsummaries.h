@@ -16,6 +16,8 @@ struct RecordSummary {
 // The summary kept for `path` when its stamp is still `stamp`; null when
 // there is none or the file may have changed.
 const RecordSummary* KeptSummary(const QString& path, const FileStamp& stamp);
+// Whether a summary is kept for `path` that its stamp alone may confirm.
+bool SummaryKept(const QString& path);
 // Keeps what was read from the file of that stamp, read at `readAtNs` on
 // the file clock.
 void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, const RecordSummary& summary);
