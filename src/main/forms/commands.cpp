@@ -89,17 +89,26 @@ void FrmMain::BuildCommands() {
 }
 
 void FrmMain::LoadCommandCaptions() {
+    // The window's objects by name, gathered in one walk rather than one
+    // search of the whole window per command.
+    QMultiHash<QString, QObject*> named;
+    for (QObject* object : findChildren<QObject*>())
+        if (!object->objectName().isEmpty()) named.insert(object->objectName(), object);
     for (const Command& c : Commands()) {
         QString text = LibraryString(c.library, c.string);
         if (text.isEmpty()) continue;  // the design caption stands
         // The product's name stands for "%s" in the caption of mnuHelpWhat.
         if (qstrcmp(c.name, "mnuHelpWhat") == 0) text = ReplaceText(text, "%s", LoadResString(998));
-        if (c.kind == CommandKind::Button) {
-            Toolbar1->findChild<QToolButton*>(Latin1(c.name))->setText(text);
-        } else if (QMenu* menu = Menu(c.name)) {
-            menu->setTitle(text);
-        } else {
-            for (QAction* action : findChildren<QAction*>(Latin1(c.name))) action->setText(text);
+        const QList<QObject*> objects = named.values(Latin1(c.name));
+        const auto menu = std::find_if(objects.begin(), objects.end(), [](QObject* o) { return qobject_cast<QMenu*>(o); });
+        for (QObject* object : objects) {
+            if (c.kind == CommandKind::Button) {
+                if (auto* button = qobject_cast<QToolButton*>(object)) button->setText(text);
+            } else if (menu != objects.end()) {
+                if (object == *menu) static_cast<QMenu*>(object)->setTitle(text);
+            } else if (auto* action = qobject_cast<QAction*>(object)) {
+                action->setText(text);
+            }
         }
     }
 }
