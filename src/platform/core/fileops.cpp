@@ -135,8 +135,9 @@ bool ReadFd(int fd, QByteArray& bytes, const struct stat* status);
 
 // Reads into room for the whole file as its size stands, in as few calls
 // as the system allows; a file that grows meanwhile is read to its end.
-// A plain file gives less than was asked only at its end, so one read
-// usually does; anything else is read until it gives nothing.
+// A plain file that gives its whole size and no more in one read has
+// ended; anything else (a file of the system's own, whose size says
+// nothing) is read until it gives nothing.
 bool ReadFd(int fd, QByteArray& bytes) {
     struct stat st;
     const bool known = ::fstat(fd, &st) == 0;
@@ -145,10 +146,8 @@ bool ReadFd(int fd, QByteArray& bytes) {
 
 // The same with the file's status already taken, or none.
 bool ReadFd(int fd, QByteArray& bytes, const struct stat* status) {
-    const bool known = status != nullptr;
-    const struct stat& st = *status;
-    const bool plain = known && S_ISREG(st.st_mode);
-    const qsizetype expected = known && st.st_size > 0 ? qsizetype(st.st_size) : 0;
+    const bool plain = status && S_ISREG(status->st_mode);
+    const qsizetype expected = status && status->st_size > 0 ? qsizetype(status->st_size) : 0;
     bytes.resize(expected + 1);  // one more, to see the end in the same pass
     qsizetype used = 0;
     for (;;) {
@@ -162,7 +161,8 @@ bool ReadFd(int fd, QByteArray& bytes, const struct stat* status) {
         }
         if (n == 0) break;
         used += n;
-        if (plain && size_t(n) < room) break;
+        // All the size said, and less than asked: the end of a plain file.
+        if (plain && used == expected && size_t(n) < room) break;
     }
     bytes.truncate(used);
     return true;
