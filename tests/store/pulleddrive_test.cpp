@@ -107,22 +107,32 @@ TEST_P(PulledDriveRoads, LeaveWholeLinesAndEveryContactAtEveryPoint) {
             SCOPED_TRACE(QString("point %1 of %2, %3").arg(point).arg(drive.points())
                              .arg(loss == Loss::Lost ? "lost" : "half written").toStdString());
             const Files files = drive.at(point, loss);
-            for (auto it = files.cbegin(); it != files.cend(); ++it)
-                if (!it.key().endsWith(".new")) EXPECT_TRUE(WholeLines(it.value(), drive.knownLines())) << it.key().toStdString();
+            for (auto it = files.cbegin(); it != files.cend(); ++it) {
+                if (!it.key().endsWith(".new")) {
+                    EXPECT_TRUE(WholeLines(it.value(), drive.knownLines())) << it.key().toStdString();
+                }
+            }
             for (const auto& [name, row] : kFiles) {
                 if (files.contains(name)) continue;
-                if (!row || !drive.deletedBefore(point, name)) ADD_FAILURE() << name << " missing";
+                if (!row || !drive.deletedBefore(point, name)) {
+                    ADD_FAILURE() << name << " missing";
+                }
             }
             for (const QString& id : Ids(before, "cat.dat")) {
                 if (road.gone.contains(id) || Listed(files, id)) continue;
                 if (!files.contains("cat.dat") || !files.contains("name.dat")) continue;  // counted above
-                if (files.contains(Record(id)) || !drive.deletedBefore(point, Record(id)))
+                if (files.contains(Record(id)) || !drive.deletedBefore(point, Record(id))) {
                     ADD_FAILURE() << "contact " << id.toStdString() << " lost";
+                }
             }
-            if (files.contains("category.dat"))
-                for (const QString& id : Ids(before, "category.dat"))
+            if (files.contains("category.dat")) {
+                for (const QString& id : Ids(before, "category.dat")) {
                     EXPECT_TRUE(road.gone.contains(id) || Ids(files, "category.dat").contains(id)) << "category " << id.toStdString();
-            if (point == drive.points()) EXPECT_EQ(files, after);  // what the road reported done lasts
+                }
+            }
+            if (point == drive.points()) {
+                EXPECT_EQ(files, after);  // what the road reported done lasts
+            }
         }
     }
 }

@@ -1,7 +1,9 @@
 #include "platform/core/fileops.h"
 
 #include <QFile>
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdio>
 #include <ctime>
 #include <dirent.h>
@@ -9,6 +11,7 @@
 #include <linux/msdos_fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
+#include <sys/uio.h>
 #include <unistd.h>
 #include "platform/core/tempfolder.h"
 
@@ -112,6 +115,27 @@ bool Rename(const QString& source, const QString& target) {
 
 bool StatRegular(const QString& path, struct stat& st) {
     return ::stat(Native(path).constData(), &st) == 0 && S_ISREG(st.st_mode);
+}
+
+// Writes every piece, going on where a write stopped short.
+bool WriteAllVectored(int fd, std::vector<iovec>& pieces) {
+    size_t at = 0;
+    while (at < pieces.size()) {
+        if (pieces[at].iov_len == 0) { ++at; continue; }
+        const ssize_t n = ::writev(fd, pieces.data() + at, int(pieces.size() - at));
+        if (n < 0) {
+            if (errno == EINTR) continue;
+            return false;
+        }
+        for (size_t left = size_t(n); left > 0 && at < pieces.size();) {
+            const size_t taken = std::min(left, pieces[at].iov_len);
+            pieces[at].iov_base = static_cast<char*>(pieces[at].iov_base) + taken;
+            pieces[at].iov_len -= taken;
+            left -= taken;
+            if (pieces[at].iov_len == 0) ++at;
+        }
+    }
+    return true;
 }
 
 bool WriteAll(int fd, const char* data, qint64 size) {
@@ -403,6 +427,21 @@ bool OutputFile::write(const QByteArray& bytes) {
     if (fd_ < 0) return false;
     if (!Step("put", path_)) return false;
     const bool ok = WriteAll(fd_, bytes.constData(), bytes.size());
+    Tell(FileEvent::Changed, path_);
+    return ok;
+}
+
+bool OutputFile::write(const std::vector<QByteArrayView>& pieces) {
+    if (fd_ < 0) return false;
+    if (!Step("put", path_)) return false;
+    bool ok = true;
+    for (size_t from = 0; ok && from < pieces.size();) {
+        std::vector<iovec> chunk;
+        for (size_t i = from; i < pieces.size() && chunk.size() < IOV_MAX; ++i)
+            chunk.push_back({const_cast<char*>(pieces[i].data()), size_t(pieces[i].size())});
+        from += chunk.size();
+        ok = WriteAllVectored(fd_, chunk);
+    }
     Tell(FileEvent::Changed, path_);
     return ok;
 }

@@ -16,6 +16,7 @@
 #include <QString>
 #include <QStringList>
 #include <functional>
+#include <vector>
 
 // Existence as the store tests it: a regular file, whether read-only or
 // hidden or not. Folders and other kinds of file are not found. An empty
@@ -91,6 +92,8 @@ public:
     bool openForAppend(const QString& path);
     bool openForBinary(const QString& path);
     bool write(const QByteArray& bytes);
+    // The pieces one after another, as one write of their whole.
+    bool write(const std::vector<QByteArrayView>& pieces);
     bool close();
     bool isOpen() const { return fd_ >= 0; }
 private:

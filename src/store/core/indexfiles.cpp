@@ -50,6 +50,20 @@ struct LineRule {
     std::function<void(QByteArray& out, const Fields& fields)> onMatch;
 };
 
+// A piece of a streamed file: bytes of the input, or of the lines written anew.
+struct Piece {
+    bool fresh;
+    qsizetype start, length;
+};
+
+std::vector<QByteArrayView> Views(const std::vector<Piece>& pieces, const QByteArray& input, const QByteArray& fresh) {
+    std::vector<QByteArrayView> views;
+    views.reserve(pieces.size());
+    for (const Piece& p : pieces)
+        if (p.length > 0) views.push_back(QByteArrayView(p.fresh ? fresh : input).sliced(p.start, p.length));
+    return views;
+}
+
 // A line kept that didn't stand as formatted writing puts it is written
 // anew from its fields.
 void Keep(QByteArray& out, const Fields& f, int fieldCount) {
@@ -76,8 +90,15 @@ bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd 
     if (!ReadWholeFile(WorkCopy(index), input)) return false;
     Claim(2);
     FieldReader reader(input);
-    QByteArray out;
-    out.reserve(input.size() + 64);
+    // The output as pieces, written in one go: runs of the input and the
+    // lines written anew, so that the kept bytes are never copied in memory.
+    QByteArray fresh;
+    std::vector<Piece> pieces;
+    const auto written = [&](auto write) {
+        const qsizetype before = fresh.size();
+        write(fresh);
+        pieces.push_back({true, before, fresh.size() - before});
+    };
     qsizetype runStart = 0;  // the plain lines kept from here on are not yet copied
     bool endedEarly = false;
     while (!reader.atEnd() && !endedEarly) {
@@ -91,15 +112,15 @@ bool Stream(const QString& index, int fieldCount, const LineRule& rule, PastEnd 
         }
         const bool matches = !endedEarly && fields[rule.field] == rule.id;
         if (plain && !matches) continue;
-        out.append(QByteArrayView(input).sliced(runStart, lineStart - runStart));
+        pieces.push_back({false, runStart, lineStart - runStart});
         runStart = reader.position();
         if (endedEarly) break;
-        if (matches) rule.onMatch(out, fields);
-        else Keep(out, fields, fieldCount);
+        if (matches) written([&](QByteArray& out) { rule.onMatch(out, fields); });
+        else written([&](QByteArray& out) { Keep(out, fields, fieldCount); });
     }
-    if (!endedEarly) out.append(QByteArrayView(input).sliced(runStart, reader.position() - runStart));
-    if (!endedEarly && tail) tail(out);
-    if (!output.write(out) || !output.close()) return false;
+    if (!endedEarly) pieces.push_back({false, runStart, reader.position() - runStart});
+    if (!endedEarly && tail) written(tail);
+    if (!output.write(Views(pieces, input, fresh)) || !output.close()) return false;
     Release(1);
     Release(2);
     if (endedEarly) return true;
