@@ -68,7 +68,7 @@ TEST(ListRows, AFailureKeepsTheRowsAndTheSnapshotMayHoldAt32766Lines) {
     ClearContactBuffer();
     store.putRecord({"00011", "Åse Berg", "0", "00001", "", "", "", "", "", "", "Fjord AS", "", "", "", "ase@example.no"});
     QList<ContactRow> rows;
-    EXPECT_FALSE(ContactRowsFromLines({"\"Norway\",\"00001\",\"00011\"", "\"Norway\",\"00001\""}, "Norway", "00001", rows));
+    EXPECT_FALSE(ContactRowsFromLines(QStringList{"\"Norway\",\"00001\",\"00011\"", "\"Norway\",\"00001\""}, "Norway", "00001", rows));
     ASSERT_EQ(rows.size(), 1);
     const ContactRow& r = rows[0];
     EXPECT_EQ(r.contactId + ":" + r.name + ":" + r.mail + ":" + r.company, U("00011:Åse Berg:ase@example.no:Fjord AS"));

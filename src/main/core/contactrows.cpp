@@ -9,10 +9,15 @@
 
 bool ContactRowsFromLines(const QStringList& lines, const QString& country,
                           const QString& categoryId, QList<ContactRow>& rows) {
+    return ContactRowsFromLines(QList<QStringView>(lines.begin(), lines.end()), country, categoryId, rows);
+}
+
+bool ContactRowsFromLines(const QList<QStringView>& lines, const QString& country,
+                          const QString& categoryId, QList<ContactRow>& rows) {
     if (lines.size() > kMaxListLines) return false;
     const QString dataFolder = DataFolder();
     try {
-        for (const QString& line : lines) {
+        for (QStringView line : lines) {
             KeepWindowPainting();
             const auto [rowCountry, rowCategory, rowContact] = SplitCatLineViews(line);
             if (rowCountry != country || rowCategory != categoryId) continue;

@@ -23,6 +23,8 @@ struct ContactRow {
 // False on a failure of the routine (a line with too few fields, a
 // one-character field, more lines than the 16-bit counter allows): `rows`
 // then holds the rows made before it.
+bool ContactRowsFromLines(const QList<QStringView>& lines, const QString& country,
+                          const QString& categoryId, QList<ContactRow>& rows);
 bool ContactRowsFromLines(const QStringList& lines, const QString& country,
                           const QString& categoryId, QList<ContactRow>& rows);
 

@@ -38,8 +38,9 @@ void FrmMain::RefreshListView1(const QString& country, const QString& key) { Lis
 // category. A failure ends the fill quietly; the rows added so far stay.
 void FrmMain::ListContacts(const QString& country, const QString& key) {
     SetScreenPointer(11);
-    QStringList lines;
-    if (ReadWholeFileLines(CatSnapshot(), lines)) {
+    QString snapshot;
+    QList<QStringView> lines;
+    if (ReadWholeFileLineViews(CatSnapshot(), snapshot, lines)) {
         ListView1->clear();
         const QString categoryId = key.mid(2);
         QApplication::processEvents();

@@ -1,5 +1,6 @@
 #include "store/core/wholefile.h"
 
+#include <QStringTokenizer>
 #include "platform/core/codepage.h"
 #include "platform/core/fileops.h"
 
@@ -8,6 +9,22 @@ QStringList WholeFileLines(const QString& text) {
     QStringList lines = text.split(QStringLiteral("\r\n"));
     lines.removeLast();
     return lines;
+}
+
+QList<QStringView> WholeFileLineViews(const QString& text) {
+    QList<QStringView> lines;
+    if (text.isEmpty()) return lines;
+    for (QStringView line : QStringTokenizer(text, u"\r\n")) lines.append(line);
+    lines.removeLast();
+    return lines;
+}
+
+bool ReadWholeFileLineViews(const QString& path, QString& text, QList<QStringView>& lines) {
+    QByteArray bytes;
+    if (!ReadWholeFile(path, bytes)) return false;
+    text = FromAnsi(bytes);
+    lines = WholeFileLineViews(text);
+    return true;
 }
 
 bool ReadWholeFileLines(const QString& path, QStringList& lines) {

@@ -9,3 +9,8 @@
 bool ReadWholeFileLines(const QString& path, QStringList& lines);
 // The same rule on text already read.
 QStringList WholeFileLines(const QString& text);
+// The same lines as views into `text`, for readers of files of tens of
+// thousands of lines that keep few of them.
+QList<QStringView> WholeFileLineViews(const QString& text);
+// The file read whole and decoded into `text`, and its lines as views into it.
+bool ReadWholeFileLineViews(const QString& path, QString& text, QList<QStringView>& lines);
