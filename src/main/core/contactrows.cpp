@@ -7,11 +7,6 @@
 #include "store/core/record.h"
 #include "store/core/text.h"
 
-bool ContactRowsFromLines(const QStringList& lines, const QString& country,
-                          const QString& categoryId, QList<ContactRow>& rows) {
-    return ContactRowsFromLines(QList<QStringView>(lines.begin(), lines.end()), country, categoryId, rows);
-}
-
 bool ContactRowsFromLines(const QList<QStringView>& lines, const QString& country,
                           const QString& categoryId, QList<ContactRow>& rows) {
     if (lines.size() > kMaxListLines) return false;

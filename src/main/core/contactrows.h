@@ -25,8 +25,6 @@ struct ContactRow {
 // then holds the rows made before it.
 bool ContactRowsFromLines(const QList<QStringView>& lines, const QString& country,
                           const QString& categoryId, QList<ContactRow>& rows);
-bool ContactRowsFromLines(const QStringList& lines, const QString& country,
-                          const QString& categoryId, QList<ContactRow>& rows);
 
 // The 16-bit row counter of the list: a snapshot of more lines fails.
 constexpr int kMaxListLines = 32766;

@@ -62,12 +62,6 @@ bool AllAscii(const QString& text) {
     return true;
 }
 
-bool AllAscii(const QByteArray& bytes) {
-    for (char b : bytes)
-        if (static_cast<unsigned char>(b) >= 0x80) return false;
-    return true;
-}
-
 const size_t kFailed = static_cast<size_t>(-1);
 
 // Runs the converter over the input (or, with no input, lets it put out
@@ -252,8 +246,14 @@ QByteArray ToCodePage(const QString& text, int codePage) {
     return out;
 }
 
+bool AllAscii(QByteArrayView bytes) {
+    for (char b : bytes)
+        if (static_cast<unsigned char>(b) >= 0x80) return false;
+    return true;
+}
+
 QString FromCodePage(const QByteArray& bytes, int codePage) {
-    if (AllAscii(bytes)) return QString::fromLatin1(bytes);
+    if (AllAscii(QByteArrayView(bytes))) return QString::fromLatin1(bytes);
     const Converters* tables = TablesFor(codePage);
     if (!tables) return IconvDecode(bytes, codePage);
 

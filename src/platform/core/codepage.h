@@ -3,6 +3,7 @@
 // that a drive written by the Windows program reads the same here. The code
 // page follows the font charset number of [Setting] Charset.
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 // Windows code page for a GDI charset number ("0" -> 1252). Unknown -> 1252.
@@ -16,6 +17,9 @@ int AnsiCodePage();
 // conversion does with its default character.
 QByteArray ToAnsi(const QString& text);
 QString FromAnsi(const QByteArray& bytes);
+
+// Bytes of plain ASCII read the same in every code page in use.
+bool AllAscii(QByteArrayView bytes);
 
 // Same, for an explicit code page.
 QByteArray ToCodePage(const QString& text, int codePage);

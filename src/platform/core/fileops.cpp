@@ -121,8 +121,12 @@ bool StatRegular(const QString& path, struct stat& st) {
 bool WriteAllVectored(int fd, std::vector<iovec>& pieces) {
     size_t at = 0;
     while (at < pieces.size()) {
-        if (pieces[at].iov_len == 0) { ++at; continue; }
-        const ssize_t n = ::writev(fd, pieces.data() + at, int(pieces.size() - at));
+        if (pieces[at].iov_len == 0) {
+            ++at;
+            continue;
+        }
+        const size_t count = std::min<size_t>(pieces.size() - at, IOV_MAX);
+        const ssize_t n = ::writev(fd, pieces.data() + at, int(count));
         if (n < 0) {
             if (errno == EINTR) continue;
             return false;
@@ -139,36 +143,19 @@ bool WriteAllVectored(int fd, std::vector<iovec>& pieces) {
 }
 
 bool WriteAll(int fd, const char* data, qint64 size) {
-    while (size > 0) {
-        ssize_t n = ::write(fd, data, static_cast<size_t>(size));
-        if (n < 0) {
-            if (errno == EINTR) continue;
-            return false;
-        }
-        data += n;
-        size -= n;
-    }
-    return true;
+    std::vector<iovec> whole{{const_cast<char*>(data), size_t(size)}};
+    return WriteAllVectored(fd, whole);
 }
 
 int OpenForWriting(const QString& path, int extraFlags) {
     return OpenPath(path, O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC | extraFlags, 0644);
 }
 
-bool ReadFd(int fd, QByteArray& bytes, const struct stat* status);
-
-// Reads into room for the whole file as its size stands, in as few calls
-// as the system allows; a file that grows meanwhile is read to its end.
-// A plain file that gives its whole size and no more in one read has
-// ended; anything else (a file of the system's own, whose size says
-// nothing) is read until it gives nothing.
-bool ReadFd(int fd, QByteArray& bytes) {
-    struct stat st;
-    const bool known = ::fstat(fd, &st) == 0;
-    return ReadFd(fd, bytes, known ? &st : nullptr);
-}
-
-// The same with the file's status already taken, or none.
+// Reads into room for the whole file as its size stands (`status`, taken
+// by the caller, or none), in as few calls as the system allows; a file
+// that grows meanwhile is read to its end. A plain file that gives its
+// whole size and no more in one read has ended; anything else (a file of
+// the system's own, whose size says nothing) is read until it gives nothing.
 bool ReadFd(int fd, QByteArray& bytes, const struct stat* status) {
     const bool plain = status && S_ISREG(status->st_mode);
     const qsizetype expected = status && status->st_size > 0 ? qsizetype(status->st_size) : 0;
@@ -190,6 +177,12 @@ bool ReadFd(int fd, QByteArray& bytes, const struct stat* status) {
     }
     bytes.truncate(used);
     return true;
+}
+
+// The same, the status taken here.
+bool ReadFd(int fd, QByteArray& bytes) {
+    struct stat st;
+    return ReadFd(fd, bytes, ::fstat(fd, &st) == 0 ? &st : nullptr);
 }
 
 bool RawRead(const QString& path, QByteArray& bytes) {
@@ -278,13 +271,17 @@ bool FileExists(const QString& path) {
 
 namespace {
 qint64 Nanoseconds(const timespec& time) { return qint64(time.tv_sec) * 1000000000 + time.tv_nsec; }
+
+FileStamp StampOf(const struct stat& st) {
+    return {st.st_size, Nanoseconds(st.st_mtim), Nanoseconds(st.st_ctim), st.st_dev, st.st_ino};
+}
 }  // namespace
 
 bool FileExistsWithStamp(const QString& path, FileStamp& stamp) {
     if (!Step("exists", path)) return false;
     struct stat st;
     if (path.isEmpty() || !StatRegular(path, st)) return false;
-    stamp = {st.st_size, Nanoseconds(st.st_mtim), Nanoseconds(st.st_ctim), st.st_dev, st.st_ino};
+    stamp = StampOf(st);
     return true;
 }
 
@@ -306,8 +303,7 @@ StampedRead ReadFileWithStamp(const QString& path, QByteArray& bytes, FileStamp&
     else if (Step("read", path) && ReadFd(fd, bytes, &st))
         result = StampedRead::Read;
     ::close(fd);
-    if (result == StampedRead::Read)
-        stamp = {st.st_size, Nanoseconds(st.st_mtim), Nanoseconds(st.st_ctim), st.st_dev, st.st_ino};
+    if (result == StampedRead::Read) stamp = StampOf(st);
     return result;
 }
 
@@ -434,14 +430,10 @@ bool OutputFile::write(const QByteArray& bytes) {
 bool OutputFile::write(const std::vector<QByteArrayView>& pieces) {
     if (fd_ < 0) return false;
     if (!Step("put", path_)) return false;
-    bool ok = true;
-    for (size_t from = 0; ok && from < pieces.size();) {
-        std::vector<iovec> chunk;
-        for (size_t i = from; i < pieces.size() && chunk.size() < IOV_MAX; ++i)
-            chunk.push_back({const_cast<char*>(pieces[i].data()), size_t(pieces[i].size())});
-        from += chunk.size();
-        ok = WriteAllVectored(fd_, chunk);
-    }
+    std::vector<iovec> vectors;
+    vectors.reserve(pieces.size());
+    for (QByteArrayView piece : pieces) vectors.push_back({const_cast<char*>(piece.data()), size_t(piece.size())});
+    const bool ok = WriteAllVectored(fd_, vectors);
     Tell(FileEvent::Changed, path_);
     return ok;
 }

@@ -25,13 +25,13 @@ QString Trimmed(const QString& text) {
     return text.mid(from, to - from);
 }
 
-QByteArray Trimmed(const QByteArray& bytes) {
-    qsizetype from = 0;
-    qsizetype to = bytes.size();
-    while (from < to && IsBlank(bytes[from])) ++from;
-    while (to > from && IsBlank(bytes[to - 1])) --to;
-    return bytes.mid(from, to - from);
+QByteArrayView TrimmedView(QByteArrayView v) {
+    while (!v.isEmpty() && IsBlank(v.front())) v = v.sliced(1);
+    while (!v.isEmpty() && IsBlank(v.back())) v.chop(1);
+    return v;
 }
+
+QByteArray Trimmed(const QByteArray& bytes) { return TrimmedView(bytes).toByteArray(); }
 
 bool SameName(const QString& a, const QString& b) {
     return a.compare(b, Qt::CaseInsensitive) == 0;
@@ -208,28 +208,11 @@ bool WritePrivateProfileString(const QString& section, const QString& key,
 long ProfileReadCallCount() { return g_readCalls; }
 
 namespace {
-QByteArrayView TrimmedView(QByteArrayView v) {
-    while (!v.isEmpty() && IsBlank(v.front())) v = v.sliced(1);
-    while (!v.isEmpty() && IsBlank(v.back())) v.chop(1);
-    return v;
-}
-
 QString Decoded(QByteArrayView v) { return FromAnsi(QByteArray::fromRawData(v.data(), v.size())); }
 
-bool AllAscii(QByteArrayView v) {
-    return std::all_of(v.begin(), v.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-}
-
 // For a header line, whether it names `wanted`; nothing for any other line.
-// A header of plain letters is compared as it stands, any other decoded.
 std::optional<bool> HeaderNames(QByteArrayView line, const QString& wanted) {
     if (!line.startsWith('[')) return std::nullopt;
-    if (AllAscii(line)) {
-        const qsizetype close = line.lastIndexOf(']');
-        if (close <= 0) return std::nullopt;
-        const QByteArrayView name = TrimmedView(line.sliced(1, close - 1));
-        return wanted.compare(QLatin1StringView(name.data(), name.size()), Qt::CaseInsensitive) == 0;
-    }
     const QString text = Decoded(line);
     const qsizetype close = text.lastIndexOf(u']');
     if (close <= 0) return std::nullopt;
@@ -237,10 +220,7 @@ std::optional<bool> HeaderNames(QByteArrayView line, const QString& wanted) {
 }
 
 // A key as the values are looked up by: in lower case.
-QString KeyName(QByteArrayView key) {
-    if (AllAscii(key)) return QString::fromLatin1(key.data(), key.size()).toLower();
-    return Decoded(key).toLower();
-}
+QString KeyName(QByteArrayView key) { return Decoded(key).toLower(); }
 
 // Which of `keys` (in lower case) a key of the file is, or -1. A key of
 // plain letters compares as bytes; any other as text, where case folding

@@ -20,12 +20,10 @@ namespace {
 // profile call would give for it, or empty when missing.
 class RecordKeys {
 public:
-    explicit RecordKeys(const QString& path) : read_(ReadProfileSection("Setting", path, values_)) {}
+    explicit RecordKeys(const QString& path) { ReadProfileSection("Setting", path, values_); }
     QString operator()(const char* key) const { return values_.value(QString::fromLatin1(key)); }
-    bool read() const { return read_; }
 private:
     ProfileValues values_;
-    bool read_;
 };
 }  // namespace
 
@@ -115,10 +113,11 @@ std::optional<RecordSummary> ReadSummary(const QString& path) {
 // A record read before is confirmed by its stamp alone, without opening
 // it; any other is opened once, which is its existence test as well.
 std::optional<RecordSummary> Summary(const QString& path) {
-    if (!SummaryKept(path)) return ReadSummary(path);
+    const KeptRecordSummary* kept = KeptSummary(path);
+    if (!kept) return ReadSummary(path);
     FileStamp stamp;
     if (!FileExistsWithStamp(path, stamp)) return std::nullopt;
-    if (const RecordSummary* kept = KeptSummary(path, stamp)) return *kept;
+    if (stamp == kept->stamp) return kept->summary;
     return ReadSummary(path);
 }
 }  // namespace

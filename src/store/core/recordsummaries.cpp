@@ -10,9 +10,8 @@ namespace {
 constexpr qint64 kTimeStepNs = 2'000'000'000;
 
 struct Kept {
-    FileStamp stamp;
+    KeptRecordSummary read;
     bool settled = false;  // the file was older than the time step when read
-    RecordSummary summary;
 };
 
 struct Keeper {
@@ -38,18 +37,12 @@ Keeper& TheKeeper() {
 void Forget(const QString& path) { TheKeeper().byPath.remove(path); }
 }  // namespace
 
-const RecordSummary* KeptSummary(const QString& path, const FileStamp& stamp) {
+const KeptRecordSummary* KeptSummary(const QString& path) {
     const auto found = TheKeeper().byPath.constFind(path);
-    if (found == TheKeeper().byPath.constEnd() || !found->settled || !(found->stamp == stamp)) return nullptr;
-    return &found->summary;
-}
-
-bool SummaryKept(const QString& path) {
-    const auto found = TheKeeper().byPath.constFind(path);
-    return found != TheKeeper().byPath.constEnd() && found->settled;
+    return found != TheKeeper().byPath.constEnd() && found->settled ? &found->read : nullptr;
 }
 
 void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, const RecordSummary& summary) {
     const qint64 newest = std::max(stamp.modifiedNs, stamp.changedNs);
-    TheKeeper().byPath.insert(path, {stamp, readAtNs - newest > kTimeStepNs, summary});
+    TheKeeper().byPath.insert(path, {{stamp, summary}, readAtNs - newest > kTimeStepNs});
 }

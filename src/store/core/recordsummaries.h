@@ -13,11 +13,14 @@ struct RecordSummary {
     QString infoname, mail, category, company, designation;
 };
 
-// The summary kept for `path` when its stamp is still `stamp`; null when
-// there is none or the file may have changed.
-const RecordSummary* KeptSummary(const QString& path, const FileStamp& stamp);
-// Whether a summary is kept for `path` that its stamp alone may confirm.
-bool SummaryKept(const QString& path);
+// What was read of a file, and the stamp the file had then.
+struct KeptRecordSummary {
+    FileStamp stamp;
+    RecordSummary summary;
+};
+// The summary kept for `path` that the file's stamp alone may confirm: the
+// caller compares the stamp the file has now. Null when there is none.
+const KeptRecordSummary* KeptSummary(const QString& path);
 // Keeps what was read from the file of that stamp, read at `readAtNs` on
 // the file clock.
 void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, const RecordSummary& summary);

@@ -9,11 +9,7 @@ QString TrimSpaces(const QString& text) {
     return text.mid(start, end - start);
 }
 
-QString StripEnds(const QString& text) {
-    if (text.isEmpty()) return text;
-    if (text.size() == 1) throw RoutineFailure("Invalid procedure call or argument");
-    return text.mid(1, text.size() - 2);
-}
+QString StripEnds(const QString& text) { return text.isEmpty() ? text : StripEndsOfView(text).toString(); }
 
 QStringView StripEndsOfView(QStringView text) {
     if (text.isEmpty()) return text;

@@ -5,9 +5,8 @@
 #include "platform/core/fileops.h"
 
 QStringList WholeFileLines(const QString& text) {
-    if (text.isEmpty()) return {};
-    QStringList lines = text.split(QStringLiteral("\r\n"));
-    lines.removeLast();
+    QStringList lines;
+    for (QStringView line : WholeFileLineViews(text)) lines.append(line.toString());
     return lines;
 }
 
