@@ -5,25 +5,32 @@
 #include "store/core/indexfiles.h"
 #include "store/core/paths.h"
 #include "store/core/record.h"
+#include "store/core/summaryreads.h"
 #include "store/core/text.h"
 
 bool ContactRowsFromLines(const QList<QStringView>& lines, const QString& country,
                           const QString& categoryId, QList<ContactRow>& rows) {
     if (lines.size() > kMaxListLines) return false;
     const QString dataFolder = DataFolder();
+    QStringList ids, paths;
+    bool whole = true;
     try {
         for (QStringView line : lines) {
             KeepWindowPainting();
             const auto [rowCountry, rowCategory, rowContact] = SplitCatLineViews(line);
             if (rowCountry != country || rowCategory != categoryId) continue;
-            const ContactId contactId = rowContact.toString();
-            ReadContactSummary(dataFolder, contactId);
-            if (TrimSpaces(ContactBuffer.infoname).isEmpty()) continue;
-            rows.append({ContactBuffer.infoname, ContactBuffer.mail, ContactBuffer.company,
-                         ContactBuffer.designation, contactId});
+            ids.append(rowContact.toString());
+            paths.append(RecordPathIn(dataFolder, ids.last()));
         }
     } catch (const RoutineFailure&) {
-        return false;
+        whole = false;  // the lines before the failing one still make their rows
     }
-    return true;
+    // All records are read first, so that their openings may be shared out.
+    const std::vector<std::optional<RecordSummary>> summaries = ReadRecordSummaries(paths);
+    for (qsizetype i = 0; i < ids.size(); ++i) {
+        if (summaries[size_t(i)]) SummaryIntoBuffer(*summaries[size_t(i)]);
+        if (TrimSpaces(ContactBuffer.infoname).isEmpty()) continue;
+        rows.append({ContactBuffer.infoname, ContactBuffer.mail, ContactBuffer.company, ContactBuffer.designation, ids[i]});
+    }
+    return whole;
 }

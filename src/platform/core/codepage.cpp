@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstring>
 #include <iconv.h>
+#include <mutex>
 #include <unordered_map>
 #include <vector>
 
@@ -36,6 +37,15 @@ const iconv_t kNoConverter = reinterpret_cast<iconv_t>(-1);
 std::unordered_map<int, Converters>& ConverterCache() {
     static auto* cache = new std::unordered_map<int, Converters>;
     return *cache;
+}
+
+// The cache, the tables made on first use and iconv's conversion state are
+// shared by the threads that read records: one at a time. Recursive, as the
+// tables are made by the decoder itself. The finished tables are only read,
+// without it.
+std::recursive_mutex& ConvertersLock() {
+    static auto* lock = new std::recursive_mutex;
+    return *lock;
 }
 
 Converters& ConvertersFor(int codePage) {
@@ -121,6 +131,7 @@ QString FromAnsi(const QByteArray& bytes) { return FromCodePage(bytes, g_ansiCod
 namespace {
 
 QByteArray IconvEncode(const QString& text, int codePage) {
+    const std::lock_guard lock(ConvertersLock());
     QList<uint> points = text.toUcs4();
     Converters& conv = ConvertersFor(codePage);
     if (conv.encode == kNoConverter) {
@@ -153,6 +164,7 @@ QByteArray IconvEncode(const QString& text, int codePage) {
 }
 
 QString IconvDecode(const QByteArray& bytes, int codePage) {
+    const std::lock_guard lock(ConvertersLock());
     Converters& conv = ConvertersFor(codePage);
     if (conv.decode == kNoConverter) {
         QString out;
@@ -198,6 +210,7 @@ bool HasByteTables(int codePage) {
 
 const Converters* TablesFor(int codePage) {
     if (!HasByteTables(codePage)) return nullptr;
+    const std::lock_guard lock(ConvertersLock());
     Converters& conv = ConvertersFor(codePage);
     if (!conv.tablesTried) {
         conv.tablesTried = true;

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <climits>
 #include <cstdio>
@@ -19,7 +20,8 @@ namespace {
 
 long g_failAt = 0;
 QString g_failOn;
-long g_count = 0;
+// Atomic: records are read by more than one thread (never while a test watches).
+std::atomic<long> g_count = 0;
 QString g_failed;
 bool g_logging = false;
 QStringList g_log;
@@ -39,8 +41,8 @@ void Tell(FileEvent event, const QString& path, const QString& target = QString(
 
 // Counts one operation; false when it is the one a test made fail.
 bool Step(const char* kind, const QString& path) {
-    ++g_count;
-    const bool failHere = g_failAt != 0 && g_count == g_failAt;
+    const long count = ++g_count;
+    const bool failHere = g_failAt != 0 && count == g_failAt;
     if (!failHere && !g_logging && g_failOn.isEmpty()) return true;
     const QString operation = QString::fromLatin1(kind) + " " + path;
     if (g_logging) g_trace << operation;
@@ -463,6 +465,8 @@ void FailFileOperationOn(const QString& operation) {
     g_failOn = operation;
 }
 long FileOperationCount() { return g_count; }
+
+bool FileStepsWatched() { return g_failAt != 0 || !g_failOn.isEmpty() || g_logging || g_watcher; }
 QString FailedFileOperation() { return g_failed; }
 void SetFileOperationLogging(bool on) { g_logging = on; }
 QStringList FileOperationLog() { return g_log; }

@@ -110,6 +110,9 @@ void FailFileOperationAt(long k);
 // once. Resets the count.
 void FailFileOperationOn(const QString& operation);
 long FileOperationCount();
+// True while a test makes operations fail, traces them or watches changes:
+// the steps must then come one after another, in the program's order.
+bool FileStepsWatched();
 // "copy <target>", "kill <path>", ... of the operation made to fail, or empty.
 QString FailedFileOperation();
 // When on, every operation that changes a file is logged as "kind path".

@@ -7,7 +7,7 @@
 #include "platform/core/numbers.h"
 #include "platform/core/profile.h"
 #include "store/core/paths.h"
-#include "store/core/recordsummaries.h"
+#include "store/core/summaryreads.h"
 #include "store/core/text.h"
 
 ContactRecord ContactBuffer;
@@ -92,47 +92,18 @@ bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const cha
     return true;
 }
 
-namespace {
-// The five keys read from the file itself, and kept for the next refill. A
-// record that can't be read shows as empty; a missing one gives nothing.
-std::optional<RecordSummary> ReadSummary(const QString& path) {
-    const qint64 readAt = FileClockNowNs();
-    QByteArray bytes;
-    FileStamp stamp;
-    const StampedRead read = ReadFileWithStamp(path, bytes, stamp);
-    if (read == StampedRead::Missing) return std::nullopt;
-    if (read == StampedRead::Unreadable) return RecordSummary{};
-    const QStringList v = ProfileSectionValues("Setting", bytes,
-                                               {QLatin1String("infoname"), QLatin1String("mail"), QLatin1String("category"),
-                                                QLatin1String("company"), QLatin1String("designation")});
-    const RecordSummary summary{v[0], v[1], v[2], v[3], v[4]};
-    KeepSummary(path, stamp, readAt, summary);
-    return summary;
+void SummaryIntoBuffer(const RecordSummary& summary) {
+    ContactBuffer.infoname = summary.infoname;
+    ContactBuffer.mail = summary.mail;
+    ContactBuffer.category = summary.category;
+    ContactBuffer.company = summary.company;
+    ContactBuffer.designation = summary.designation;
 }
 
-// A record read before is confirmed by its stamp alone, without opening
-// it; any other is opened once, which is its existence test as well.
-std::optional<RecordSummary> Summary(const QString& path) {
-    const KeptRecordSummary* kept = KeptSummary(path);
-    if (!kept) return ReadSummary(path);
-    FileStamp stamp;
-    if (!FileExistsWithStamp(path, stamp)) return std::nullopt;
-    if (stamp == kept->stamp) return kept->summary;
-    return ReadSummary(path);
-}
-}  // namespace
-
-// The list reads thousands of these after every save: a record it read
-// before and that has not changed since is not read again.
 bool ReadContactSummary(const QString& dataFolder, const ContactId& contactId) {
-    const std::optional<RecordSummary> summary = Summary(RecordPathIn(dataFolder, contactId));
-    if (!summary) return false;
-    ContactBuffer.infoname = summary->infoname;
-    ContactBuffer.mail = summary->mail;
-    ContactBuffer.category = summary->category;
-    ContactBuffer.company = summary->company;
-    ContactBuffer.designation = summary->designation;
-    return true;
+    const std::optional<RecordSummary> summary = ReadRecordSummaries({RecordPathIn(dataFolder, contactId)}).front();
+    if (summary) SummaryIntoBuffer(*summary);
+    return summary.has_value();
 }
 
 QString EncodeFieldText(const QString& text) {

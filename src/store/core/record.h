@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <QString>
 #include "store/core/ids.h"
+#include "store/core/recordsummaries.h"
 
 // The contact in hand, shared by the forms: the main window fills it before
 // a dialog opens and clears it after the dialog closes. Values stay as
@@ -41,6 +42,8 @@ bool ReadContactWithId(const ContactId& contactId);    // infoid from the file
 // The list's five keys, from the record in `dataFolder` (DataFolder(), looked
 // up once per walk rather than once per row).
 bool ReadContactSummary(const QString& dataFolder, const ContactId& contactId);
+// The five keys of a summary into the buffer; the other fields stay.
+void SummaryIntoBuffer(const RecordSummary& summary);
 // The named text keys alone, each into its field of the buffer; the others
 // stay as they were. False, and nothing read, when the file is missing.
 bool ReadContactKeys(const ContactId& contactId, std::initializer_list<const char*> keys);
