@@ -9,6 +9,7 @@
 #include "platform/core/fileops.h"
 #include "platform/core/tempfolder.h"
 #include "store/core/failure.h"
+#include "store/core/formatted.h"
 #include "store/core/paths.h"
 #include "store/core/store.h"
 #include "support/printers.h"
@@ -113,6 +114,23 @@ TEST_F(HandStore, StreamingRoutinesKeepOtherLinesAsTheyRead) {
     for (const char* index : {"cat.dat", "cty.dat", "name.dat"}) store.put(index, "");
     ASSERT_TRUE(StageIndexFiles());
     EXPECT_TRUE(RemoveCatLine("00011") && staged("cat").isEmpty() && store.exists(store.tempFile("addr_cat.dat")));
+}
+
+// Wherever its quotes fall, a plain line is read whole and one that lacks
+// its closing quote or its line end is not.
+TEST(FormattedReading, APlainLineIsReadWholeWhateverItsFieldsLengths) {
+    for (int n = 0; n < 40; ++n) {
+        const QByteArray field(n, 'x'), line = "\"" + field + "\",\"00001\",\"" + QByteArray::number(n) + "\"\r\n";
+        const QByteArray rows[] = {line + line, line.chopped(2) + "\n" + line, line.chopped(3) + line};
+        for (int r = 0; r < 3; ++r) {
+            FieldReader reader(rows[r]);
+            QByteArrayView fields[3];
+            const bool plain = reader.readPlainLine(fields, 3);
+            EXPECT_EQ(plain, r == 0) << n << " " << r;
+            if (plain) EXPECT_TRUE(fields[0] == field && fields[2] == QByteArray::number(n) && reader.position() == line.size()) << n;
+            else EXPECT_EQ(reader.position(), 0) << n;
+        }
+    }
 }
 
 TEST_F(HandStore, ADamagedLastLineEndsOnlyTheNameRemoval) {

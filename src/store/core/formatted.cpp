@@ -1,6 +1,10 @@
 #include "store/core/formatted.h"
 
+#include <bit>
 #include <cstring>
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace {
 template <typename Out, typename Field>
@@ -59,6 +63,23 @@ bool FieldReader::read(QByteArrayView& field) {
     return true;
 }
 
+namespace {
+// The first double quote from `p` on, or `end`. Fields are a few bytes
+// long: sixteen bytes are looked at in one step, with no call.
+inline const char* NextQuote(const char* p, const char* end) {
+#ifdef __SSE2__
+    const __m128i quote = _mm_set1_epi8('"');
+    for (; end - p >= 16; p += 16) {
+        const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        const unsigned found = unsigned(_mm_movemask_epi8(_mm_cmpeq_epi8(block, quote)));
+        if (found) return p + std::countr_zero(found);
+    }
+#endif
+    while (p != end && *p != '"') ++p;
+    return p;
+}
+}  // namespace
+
 // Called once per line of files of tens of thousands of lines: it works on
 // the bytes directly.
 bool FieldReader::readPlainLine(QByteArrayView* fields, int count) {
@@ -67,8 +88,8 @@ bool FieldReader::readPlainLine(QByteArrayView* fields, int count) {
     const char* at = begin + pos_;
     for (int i = 0; i < count; ++i) {
         if (at == end || *at != '"') return false;
-        const char* close = static_cast<const char*>(std::memchr(at + 1, '"', size_t(end - at - 1)));
-        if (!close) return false;
+        const char* close = NextQuote(at + 1, end);
+        if (close == end) return false;
         fields[i] = QByteArrayView(at + 1, close - at - 1);
         at = close + 1;
         if (i < count - 1) {
