@@ -88,3 +88,24 @@ TEST(FileOps, TheKthOperationOrTheNamedOneFails) {
     EXPECT_TRUE(FileExists(store.appFile("y")));  // only the first of that name
     FailFileOperationAt(0);
 }
+
+// A copy gives the target the source's bytes, whatever the source: a large
+// file, the target itself, a file of the system's own whose size says
+// nothing. A source that can't be opened leaves the target alone.
+TEST(FileOps, ACopyGivesTheSourcesBytesOrLeavesTheTargetAlone) {
+    ScratchStore store;
+    QByteArray large;
+    for (int i = 0; i < 20000; ++i) large += "\"Norway\",\"00001\",\"" + QByteArray::number(i) + "\"\r\n";
+    store.put("large", large), store.put("self", "self"), store.put("kept", "kept");
+    const struct { QString source, target; bool ok; QByteArray bytes; } rows[] = {
+        {store.appFile("large"), store.appFile("copy"), true, large},
+        {store.appFile("self"), store.appFile("self"), true, "self"},
+        {store.appFile("missing"), store.appFile("kept"), false, "kept"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(CopyFile(row.source, row.target), row.ok) << row.source.toStdString();
+        EXPECT_EQ(store.file(QFileInfo(row.target).fileName()), row.bytes) << row.source.toStdString();
+    }
+    ASSERT_TRUE(CopyFile("/proc/self/status", store.appFile("status")));
+    EXPECT_TRUE(store.file("status").startsWith("Name:"));
+}
