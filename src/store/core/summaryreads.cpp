@@ -3,6 +3,7 @@
 #include <QThread>
 #include <algorithm>
 #include <atomic>
+#include <system_error>
 #include <thread>
 #include "platform/core/fileops.h"
 #include "platform/core/keeppainting.h"
@@ -52,7 +53,11 @@ void ReadAll(std::vector<Fresh>& fresh) {
         }
     };
     std::vector<std::jthread> helpers;
-    for (int k = 1; k < Readers(fresh.size()); ++k) helpers.emplace_back(readOn, false);
+    try {
+        for (int k = 1; k < Readers(fresh.size()); ++k) helpers.emplace_back(readOn, false);
+    } catch (const std::system_error&) {
+        // No thread to be had: the readers there are do the work.
+    }
     readOn(true);
 }
 }  // namespace
