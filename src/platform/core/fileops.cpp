@@ -213,51 +213,50 @@ bool RawWrite(const QString& path, const QByteArray& bytes, bool lasting) {
     return WriteData(path, bytes, lasting) && (!lasting || SyncFolder(FolderOf(path)));
 }
 
-// Sends the rest of `in` to `out` inside the system. False when the
-// system can't send between these two files and nothing was sent.
-bool SendAll(int in, int out, bool& sentAny) {
-    sentAny = false;
-    for (;;) {
+// Writes the rest of `in` into `out`: from file to file inside the system
+// where it can send between the two, else through a buffer of ours.
+bool PourInto(int in, int out) {
+    for (bool sentAny = false;;) {
         const ssize_t n = ::sendfile(out, in, nullptr, size_t(1) << 30);
-        if (n == 0) return true;
-        if (n < 0) {
-            if (errno == EINTR) continue;
-            return false;
+        if (n > 0) {
+            sentAny = true;
+            continue;
         }
-        sentAny = true;
+        if (n == 0) return true;
+        if (errno == EINTR) continue;
+        if (sentAny || (errno != EINVAL && errno != ENOSYS)) return false;
+        QByteArray bytes;
+        return ReadFd(in, bytes) && WriteAll(out, bytes.constData(), bytes.size());
     }
 }
 
-// Creates or empties `target` and writes the bytes of `source` into it, as
-// a read and a write would, but from file to file within the system rather
-// than through a buffer of ours. With `flush`, the data reach the device
-// before it returns. A source that can't be opened leaves the target alone.
+// Creates or empties `target` and writes the bytes of `source` into it; with
+// `flush`, the data reach the device before it returns. A source that can't
+// be opened leaves the target alone, and a copy cut short leaves none.
 bool CopyData(const QString& source, const QString& target, bool flush) {
     const int in = OpenPath(source, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (in < 0) return false;
     struct stat from, to;
-    const bool sameFile = ::fstat(in, &from) == 0 && ::stat(Native(target).constData(), &to) == 0 &&
-                          from.st_dev == to.st_dev && from.st_ino == to.st_ino;
-    bool ok = false, sentAny = false;
-    if (!sameFile && S_ISREG(from.st_mode)) {
-        const int out = OpenForWriting(target, O_TRUNC);
-        if (out >= 0) {
-            Tell(FileEvent::Changed, target);
-            ok = SendAll(in, out, sentAny);
-            Tell(FileEvent::Changed, target);
-            if (ok && flush) ok = SyncData(out, target);
-            ok = ::close(out) == 0 && ok;
-        }
-        if (ok || sentAny || out < 0) {
-            ::close(in);
-            return ok;
-        }
+    if (::fstat(in, &from) != 0 || (::stat(Native(target).constData(), &to) == 0 && from.st_dev == to.st_dev &&
+                                     from.st_ino == to.st_ino)) {
+        // Onto itself, emptying the target would lose what is to be copied.
+        QByteArray bytes;
+        const bool read = ReadFd(in, bytes);
+        ::close(in);
+        return read && WriteData(target, bytes, flush);
     }
-    // A file the system can't send from (or the target itself): read, then written.
-    QByteArray bytes;
-    ok = ::lseek(in, 0, SEEK_SET) == 0 && ReadFd(in, bytes);
+    const int out = OpenForWriting(target, O_TRUNC);
+    bool ok = out >= 0;
+    if (ok) {
+        Tell(FileEvent::Changed, target);
+        const bool poured = PourInto(in, out);
+        Tell(FileEvent::Changed, target);
+        ok = poured && (!flush || SyncData(out, target));
+        ok = ::close(out) == 0 && ok;
+        if (!poured) Unlink(target);
+    }
     ::close(in);
-    return ok && WriteData(target, bytes, flush);
+    return ok;
 }
 
 bool RawCopy(const QString& source, const QString& target) {
