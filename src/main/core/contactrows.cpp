@@ -13,6 +13,8 @@ bool ContactRowsFromLines(const QList<QStringView>& lines, const QString& countr
     if (lines.size() > kMaxListLines) return false;
     const QString dataFolder = DataFolder();
     QStringList ids, paths;
+    ids.reserve(lines.size());
+    paths.reserve(lines.size());
     bool whole = true;
     try {
         for (QStringView line : lines) {

@@ -1,5 +1,7 @@
 #include "store/core/paths.h"
 
+#include <QStringBuilder>
+
 #include "platform/core/appfolder.h"
 #include "platform/core/tempfolder.h"
 
@@ -10,7 +12,8 @@ QString StagedIndex(const QString& index) { return TempFile("addr_" + index + ".
 QString DataFolder() { return AppFile("data"); }
 QString RecordPath(const ContactId& contactId) { return RecordPathIn(DataFolder(), contactId); }
 QString RecordPathIn(const QString& dataFolder, const ContactId& contactId) {
-    return dataFolder + "/addr" + contactId + ".b64";
+    // Made for every row of a list: one allocation, not one per piece.
+    return dataFolder % u"/addr" % contactId % u".b64";
 }
 QString StagedRecordPath(const ContactId& contactId) { return TempFile("addr" + contactId + ".b64"); }
 QString CatSnapshot() { return TempFile("addr_cat.dat"); }

@@ -42,6 +42,8 @@ const KeptRecordSummary* KeptSummary(const QString& path) {
     return found != TheKeeper().byPath.constEnd() && found->settled ? &found->read : nullptr;
 }
 
+void ReserveKeptSummaries(qsizetype more) { TheKeeper().byPath.reserve(TheKeeper().byPath.size() + more); }
+
 void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, const RecordSummary& summary) {
     const qint64 newest = std::max(stamp.modifiedNs, stamp.changedNs);
     TheKeeper().byPath.insert(path, {{stamp, summary}, readAtNs - newest > kTimeStepNs});

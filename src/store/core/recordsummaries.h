@@ -23,4 +23,6 @@ struct KeptRecordSummary {
 const KeptRecordSummary* KeptSummary(const QString& path);
 // Keeps what was read from the file of that stamp, read at `readAtNs` on
 // the file clock.
+// Room for `more` summaries to come, made at once rather than as they come.
+void ReserveKeptSummaries(qsizetype more);
 void KeepSummary(const QString& path, const FileStamp& stamp, qint64 readAtNs, const RecordSummary& summary);

@@ -81,6 +81,7 @@ std::vector<std::optional<RecordSummary>> ReadRecordSummaries(const QStringList&
         freshAt.push_back(i);
     }
     ReadAll(fresh);
+    ReserveKeptSummaries(qsizetype(fresh.size()));
     for (size_t k = 0; k < fresh.size(); ++k) {
         const Fresh& r = fresh[k];
         if (r.read == StampedRead::Missing) continue;
