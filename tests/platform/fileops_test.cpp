@@ -91,7 +91,7 @@ TEST(FileOps, TheKthOperationOrTheNamedOneFails) {
 
 // A copy gives the target the source's bytes, whatever the source: a large
 // file, the target itself, a file of the system's own whose size says
-// nothing. A source that can't be opened leaves the target alone.
+// nothing. A source that can't be opened or read leaves the target alone.
 TEST(FileOps, ACopyGivesTheSourcesBytesOrLeavesTheTargetAlone) {
     ScratchStore store;
     QByteArray large;
@@ -101,6 +101,7 @@ TEST(FileOps, ACopyGivesTheSourcesBytesOrLeavesTheTargetAlone) {
         {store.appFile("large"), store.appFile("copy"), true, large},
         {store.appFile("self"), store.appFile("self"), true, "self"},
         {store.appFile("missing"), store.appFile("kept"), false, "kept"},
+        {store.app(), store.appFile("kept"), false, "kept"},  // a folder
     };
     for (const auto& row : rows) {
         EXPECT_EQ(CopyFile(row.source, row.target), row.ok) << row.source.toStdString();

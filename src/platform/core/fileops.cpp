@@ -232,14 +232,16 @@ bool PourInto(int in, int out) {
 
 // Creates or empties `target` and writes the bytes of `source` into it; with
 // `flush`, the data reach the device before it returns. A source that can't
-// be opened leaves the target alone, and a copy cut short leaves none.
+// be opened, or isn't a plain file, leaves the target alone; a copy cut short
+// leaves no target.
 bool CopyData(const QString& source, const QString& target, bool flush) {
     const int in = OpenPath(source, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (in < 0) return false;
     struct stat from, to;
-    if (::fstat(in, &from) != 0 || (::stat(Native(target).constData(), &to) == 0 && from.st_dev == to.st_dev &&
-                                     from.st_ino == to.st_ino)) {
-        // Onto itself, emptying the target would lose what is to be copied.
+    if (::fstat(in, &from) != 0 || !S_ISREG(from.st_mode) ||
+        (::stat(Native(target).constData(), &to) == 0 && from.st_dev == to.st_dev && from.st_ino == to.st_ino)) {
+        // Read first: onto itself, emptying the target would lose what is to
+        // be copied, and a folder fails before the target is touched.
         QByteArray bytes;
         const bool read = ReadFd(in, bytes);
         ::close(in);

@@ -3,6 +3,8 @@
 #include <QThread>
 #include <algorithm>
 #include <atomic>
+#include <exception>
+#include <mutex>
 #include <system_error>
 #include <thread>
 #include "platform/core/fileops.h"
@@ -35,30 +37,41 @@ void ReadOne(Fresh& r) {
     r.summary = {v[0], v[1], v[2], v[3], v[4]};
 }
 
-// A test that fails, traces or watches the file steps gets them one after
-// another, in the records' order.
 int Readers(size_t files) {
-    if (files < kShareFrom || FileStepsWatched()) return 1;
+    if (files < kShareFrom) return 1;
     return std::clamp(QThread::idealThreadCount(), 1, kMostReaders);
 }
 
 // Each reader takes the next file not yet taken; the caller's thread is one
-// of them. The helpers are joined when they go out of scope.
+// of them. The helpers are joined when they go out of scope. What a helper
+// throws (no memory for a file's bytes) stops the reading and is thrown on
+// in the caller's thread, as a walk one by one would have thrown it.
 void ReadAll(std::vector<Fresh>& fresh) {
     std::atomic<size_t> next = 0;
-    const auto readOn = [&fresh, &next](bool caller) {
-        for (size_t i; (i = next.fetch_add(1, std::memory_order_relaxed)) < fresh.size();) {
-            if (caller) KeepWindowPainting();
-            ReadOne(fresh[i]);
+    std::exception_ptr thrown;
+    std::mutex thrownLock;
+    const auto readOn = [&](bool caller) {
+        try {
+            for (size_t i; (i = next.fetch_add(1, std::memory_order_relaxed)) < fresh.size();) {
+                if (caller) KeepWindowPainting();
+                ReadOne(fresh[i]);
+            }
+        } catch (...) {
+            next = fresh.size();
+            const std::lock_guard lock(thrownLock);
+            if (!thrown) thrown = std::current_exception();
         }
     };
-    std::vector<std::jthread> helpers;
-    try {
-        for (int k = 1; k < Readers(fresh.size()); ++k) helpers.emplace_back(readOn, false);
-    } catch (const std::system_error&) {
-        // No thread to be had: the readers there are do the work.
+    {
+        std::vector<std::jthread> helpers;
+        try {
+            for (int k = 1; k < Readers(fresh.size()); ++k) helpers.emplace_back(readOn, false);
+        } catch (const std::system_error&) {
+            // No thread to be had: the readers there are do the work.
+        }
+        readOn(true);
     }
-    readOn(true);
+    if (thrown) std::rethrow_exception(thrown);
 }
 }  // namespace
 
@@ -66,6 +79,16 @@ std::vector<std::optional<RecordSummary>> ReadRecordSummaries(const QStringList&
     std::vector<std::optional<RecordSummary>> summaries(size_t(paths.size()));
     std::vector<Fresh> fresh;
     std::vector<size_t> freshAt;
+    const auto take = [&](size_t k) {
+        const Fresh& r = fresh[k];
+        if (r.read == StampedRead::Missing) return;
+        if (r.read == StampedRead::Read) KeepSummary(r.path, r.stamp, r.readAt, r.summary);
+        summaries[freshAt[k]] = r.summary;
+    };
+    // A test that fails, traces or watches the file steps gets them one
+    // after another, in the records' order, each record read and kept
+    // before the next is looked at.
+    const bool oneByOne = FileStepsWatched();
     for (size_t i = 0; i < summaries.size(); ++i) {
         KeepWindowPainting();
         const QString& path = paths[qsizetype(i)];
@@ -79,14 +102,14 @@ std::vector<std::optional<RecordSummary>> ReadRecordSummaries(const QStringList&
         }
         fresh.emplace_back().path = path;
         freshAt.push_back(i);
+        if (oneByOne) {
+            ReadOne(fresh.back());
+            take(fresh.size() - 1);
+        }
     }
+    if (oneByOne) return summaries;
     ReadAll(fresh);
     ReserveKeptSummaries(qsizetype(fresh.size()));
-    for (size_t k = 0; k < fresh.size(); ++k) {
-        const Fresh& r = fresh[k];
-        if (r.read == StampedRead::Missing) continue;
-        if (r.read == StampedRead::Read) KeepSummary(r.path, r.stamp, r.readAt, r.summary);
-        summaries[freshAt[k]] = r.summary;
-    }
+    for (size_t k = 0; k < fresh.size(); ++k) take(k);
     return summaries;
 }
