@@ -35,13 +35,6 @@ void AddNode(QList<CategoryNode>& nodes, QSet<QString>& keys, const QString& id,
     nodes.append({key, CategoryNodeText(name, count), count});
 }
 
-// One character, or one byte where each byte is a character of its own.
-QStringView StripEndsOf(QStringView text) { return StripEndsOfView(text); }
-QByteArrayView StripEndsOf(QByteArrayView bytes) {
-    if (bytes.size() == 1) throw RoutineFailure("Invalid procedure call or argument");
-    return bytes.isEmpty() ? bytes : bytes.sliced(1, bytes.size() - 2);
-}
-
 qsizetype LineEndIn(QStringView text, qsizetype from) { return text.indexOf(u"\r\n", from); }
 qsizetype LineEndIn(QByteArrayView bytes, qsizetype from) {
     for (qsizetype cr = bytes.indexOf('\r', from); cr >= 0; cr = bytes.indexOf('\r', cr + 1))
@@ -63,8 +56,8 @@ QHash<View, int> CountRows(View text, View filterCountry) {
         const qsizetype comma = CommaIn(line, 0);
         if (comma < 0) throw RoutineFailure("line with too few fields");
         const qsizetype next = CommaIn(line, comma + 1);
-        const View country = StripEndsOf(line.first(comma));
-        const View category = StripEndsOf(next < 0 ? line.sliced(comma + 1) : line.sliced(comma + 1, next - comma - 1));
+        const View country = StripEndsOfView(line.first(comma));
+        const View category = StripEndsOfView(next < 0 ? line.sliced(comma + 1) : line.sliced(comma + 1, next - comma - 1));
         if (country == filterCountry) ++counts[category];
     }
     return counts;

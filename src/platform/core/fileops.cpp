@@ -468,13 +468,7 @@ bool OutputFile::openForOutput(const QString& path) { return open(path, "output"
 bool OutputFile::openForAppend(const QString& path) { return open(path, "append", O_APPEND); }
 bool OutputFile::openForBinary(const QString& path) { return open(path, "binary", 0); }
 
-bool OutputFile::write(const QByteArray& bytes) {
-    if (fd_ < 0) return false;
-    if (!Step("put", path_)) return false;
-    const bool ok = WriteAll(fd_, bytes.constData(), bytes.size());
-    Tell(FileEvent::Changed, path_);
-    return ok;
-}
+bool OutputFile::write(const QByteArray& bytes) { return write(std::vector<QByteArrayView>{bytes}); }
 
 bool OutputFile::write(const std::vector<QByteArrayView>& pieces) {
     if (fd_ < 0) return false;

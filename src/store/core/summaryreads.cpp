@@ -19,6 +19,7 @@ constexpr int kMostReaders = 4;
 
 // One record file as read by a reader.
 struct Fresh {
+    size_t row = 0;  // its place among the paths asked for
     QString path;
     qint64 readAt = 0;
     StampedRead read = StampedRead::Missing;
@@ -78,12 +79,11 @@ void ReadAll(std::vector<Fresh>& fresh) {
 std::vector<std::optional<RecordSummary>> ReadRecordSummaries(const QStringList& paths) {
     std::vector<std::optional<RecordSummary>> summaries(size_t(paths.size()));
     std::vector<Fresh> fresh;
-    std::vector<size_t> freshAt;
     const auto take = [&](size_t k) {
         const Fresh& r = fresh[k];
         if (r.read == StampedRead::Missing) return;
         if (r.read == StampedRead::Read) KeepSummary(r.path, r.stamp, r.readAt, r.summary);
-        summaries[freshAt[k]] = r.summary;
+        summaries[r.row] = r.summary;
     };
     // A test that fails, traces or watches the file steps gets them one
     // after another, in the records' order, each record read and kept
@@ -100,8 +100,9 @@ std::vector<std::optional<RecordSummary>> ReadRecordSummaries(const QStringList&
                 continue;
             }
         }
-        fresh.emplace_back().path = path;
-        freshAt.push_back(i);
+        Fresh& r = fresh.emplace_back();
+        r.row = i;
+        r.path = path;
         if (oneByOne) {
             ReadOne(fresh.back());
             take(fresh.size() - 1);

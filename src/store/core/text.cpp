@@ -11,11 +11,17 @@ QString TrimSpaces(const QString& text) {
 
 QString StripEnds(const QString& text) { return text.isEmpty() ? text : StripEndsOfView(text).toString(); }
 
-QStringView StripEndsOfView(QStringView text) {
+namespace {
+template <typename View>
+View StripEndsOf(View text) {
     if (text.isEmpty()) return text;
     if (text.size() == 1) throw RoutineFailure("Invalid procedure call or argument");
-    return text.mid(1, text.size() - 2);
+    return text.sliced(1, text.size() - 2);
 }
+}  // namespace
+
+QStringView StripEndsOfView(QStringView text) { return StripEndsOf(text); }
+QByteArrayView StripEndsOfView(QByteArrayView bytes) { return StripEndsOf(bytes); }
 
 const QString& Element(const QStringList& parts, int i) {
     if (i < 0 || i >= parts.size()) throw RoutineFailure("Subscript out of range");
